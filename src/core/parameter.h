@@ -1,0 +1,25 @@
+// The parameter-name table: the slot of each known name and the default
+// value a parameter of that name is created with.
+#pragma once
+
+#include <span>
+
+namespace veltra {
+
+struct ParameterName {
+    const char *name;
+    int slot;
+    double default_value;
+};
+
+// The 29 known names, in search order.
+std::span<const ParameterName> parameter_names();
+
+// Row of a name (ignoring case), or nullptr.
+const ParameterName *find_parameter_name(const char *name);
+
+// Slot of a name: the table's, 15 for names beginning "DATASET_" (any
+// case), else -1.
+int parameter_slot(const char *name);
+
+}  // namespace veltra

@@ -1,0 +1,57 @@
+// Tokenizer of the bracketed text form: splits at the delimiter set `[],"`
+// as a token splitter would (runs of delimiters give no empty tokens), drops
+// blank pieces and trims the rest.
+#include "core/tokenizer.h"
+
+#include "core/strutil.h"
+#include "veltra.h"
+
+#include <cstring>
+
+namespace veltra {
+
+namespace {
+
+bool is_delimiter(char c) {
+    return c == '[' || c == ']' || c == ',' || c == '"';
+}
+
+bool has_content(const char *s) {
+    for (; *s != '\0'; ++s)
+        if (!is_blank(*s)) return true;
+    return false;
+}
+
+}  // namespace
+
+bool tokenize(const char *text, Tokens &out) {
+    out.count = 0;
+    out.buffer[0] = '\0';
+    if (text == nullptr) return false;
+    std::size_t length = strnlen(text, Tokens::kBufferSize - 1);
+    std::memcpy(out.buffer, text, length);
+    out.buffer[length] = '\0';
+
+    char *p = out.buffer;
+    while (*p != '\0' && out.count < Tokens::kMaxTokens) {
+        while (*p != '\0' && is_delimiter(*p)) ++p;
+        if (*p == '\0') break;
+        char *start = p;
+        while (*p != '\0' && !is_delimiter(*p)) ++p;
+        if (*p != '\0') *p++ = '\0';
+        if (has_content(start)) {
+            ka_str_trim(start);
+            out.token[out.count++] = start;
+        }
+    }
+    return true;
+}
+
+int find_keyword(const Tokens &tokens, const char *keyword, int needed,
+                 int from) {
+    for (int i = from; i + needed < tokens.count; ++i)
+        if (ka_strcasecmp(tokens.token[i], keyword) == 0) return i;
+    return -1;
+}
+
+}  // namespace veltra
