@@ -1,0 +1,14 @@
+// The projection registry: each projection name bound to its routines and
+// its default parameter list.
+#pragma once
+
+#include "core/object.h"
+
+namespace veltra {
+
+// New projection from the registry row whose name equals `name` ignoring
+// case, stored under the given spelling; nullptr for an unknown name, or
+// for a row whose routines this build does not have.
+ka_projection *registry_projection(const char *name);
+
+}  // namespace veltra
