@@ -558,7 +558,6 @@ KA_API int *ka_factory_geogcs_codelist(int *count);
 KA_API int *ka_factory_projection_codelist(int *count);
 KA_API int *ka_factory_method_codelist(int *count);
 KA_API int *ka_factory_parameter_codelist(int *count);
-KA_API int *ka_factory_projcs_codelist(int *count);
 KA_API int *ka_factory_geogtran_codelist(int *count);
 KA_API void ka_factory_codelist_del(int *list);
 

@@ -79,7 +79,6 @@ std::span<const MacroRow> geogtran_macros();
 std::span<const MacroRow> projection_macros();
 std::span<const MacroRow> method_macros();
 std::span<const MacroRow> parameter_macros();
-std::span<const MacroRow> projcs_macros();
 
 // The row of `code` in a table sorted by code, or nullptr.
 template <class Row>
