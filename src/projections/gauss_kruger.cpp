@@ -77,11 +77,18 @@ void tm_forward_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
         double *p = points + 2 * i;
         const double dl = fold_longitude(p[0] - lambda0);
         const double phi = clamp_pole(p[1]);
+        const double m = k0 * (meridian_arc_length(arc, phi) - tm.m0);
+        if (is_pole(p[1])) {
+            // A pole lies on the central meridian whatever the longitude;
+            // the dl terms of the clamped latitude would only add noise.
+            p[0] = 0;
+            p[1] = m;
+            continue;
+        }
         const double s = std::sin(phi), c = std::cos(phi);
         const double t = s / c, T = t * t;
         const double h = tm.ep2 * c * c;
         const double kN = k0 * a / std::sqrt(1 - e2 * s * s);
-        const double m = k0 * (meridian_arc_length(arc, phi) - tm.m0);
         const double u = dl * c, u2 = u * u;
 
         const double y4 = (5 - T + h * (9 + 4 * h)) / 24;

@@ -46,7 +46,9 @@ int mercator_constants(PcsConstants *record, const double *ellipsoid,
     return kConstantsCount;
 }
 
-// Poles are clamped, so no point fails.
+// Poles are clamped, so no point fails.  ln tan(pi/4 + chi/2) is odd in chi
+// and is taken on |chi|: near the south pole pi/4 + chi/2 would lose all
+// but a few digits to cancellation, so both poles map to the same |y|.
 int mercator_forward(const double *ellipsoid, const double *params, int n,
                      double *points, const int *header,
                      const double *constants) {
@@ -61,7 +63,8 @@ int mercator_forward(const double *ellipsoid, const double *params, int n,
         const double chi =
             ellipsoidal ? phi + sine_series(phi, to_chi) : phi;
         p[0] = m.am1 * dl;
-        p[1] = m.am1 * std::log(std::tan(kQuarterPi + chi / 2));
+        p[1] = std::copysign(
+            m.am1 * std::log(std::tan(kQuarterPi + std::fabs(chi) / 2)), chi);
     }
     return all_points(n);
 }

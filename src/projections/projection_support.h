@@ -36,8 +36,10 @@ inline bool is_ellipsoid(const double *ellipsoid) {
 // infinite tangent.
 inline constexpr double kClampedPole = 1.570796326794891;
 
+inline bool is_pole(double phi) { return tol_eq(std::fabs(phi), kHalfPi); }
+
 inline double clamp_pole(double phi) {
-    if (!tol_eq(std::fabs(phi), kHalfPi)) return phi;
+    if (!is_pole(phi)) return phi;
     return phi < 0 ? -kClampedPole : kClampedPole;
 }
 
