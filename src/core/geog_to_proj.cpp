@@ -19,13 +19,17 @@ extern "C" KA_API int ka_geog_to_proj(const ka_projcs *projcs, int n,
     const double false_easting = inputs.values[0];
     const double false_northing = inputs.values[1];
 
-    for (int i = 0; i < 2 * n; ++i) coords[i] *= angular;
+    // Passes that would change nothing (radians in, metres out, no false
+    // origin) are skipped.
+    if (angular != 1.0)
+        for (int i = 0; i < 2 * n; ++i) coords[i] *= angular;
     const int count = ka_projection_forward(ka_projcs_projection(projcs))(
         inputs.system, inputs.values, n, coords, pcsconstants_header(record),
         pcsconstants_values(record));
-    for (int i = 0; i < n; ++i) {
-        coords[2 * i] = (coords[2 * i] + false_easting) / linear;
-        coords[2 * i + 1] = (coords[2 * i + 1] + false_northing) / linear;
-    }
+    if (linear != 1.0 || false_easting != 0.0 || false_northing != 0.0)
+        for (int i = 0; i < n; ++i) {
+            coords[2 * i] = (coords[2 * i] + false_easting) / linear;
+            coords[2 * i + 1] = (coords[2 * i + 1] + false_northing) / linear;
+        }
     return count;
 }

@@ -17,13 +17,17 @@ extern "C" KA_API int ka_proj_to_geog(const ka_projcs *projcs, int n,
     const double false_easting = inputs.values[0];
     const double false_northing = inputs.values[1];
 
-    for (int i = 0; i < n; ++i) {
-        coords[2 * i] = coords[2 * i] * linear - false_easting;
-        coords[2 * i + 1] = coords[2 * i + 1] * linear - false_northing;
-    }
+    // Passes that would change nothing (metres in, radians out, no false
+    // origin) are skipped.
+    if (linear != 1.0 || false_easting != 0.0 || false_northing != 0.0)
+        for (int i = 0; i < n; ++i) {
+            coords[2 * i] = coords[2 * i] * linear - false_easting;
+            coords[2 * i + 1] = coords[2 * i + 1] * linear - false_northing;
+        }
     const int count = ka_projection_inverse(ka_projcs_projection(projcs))(
         inputs.system, inputs.values, n, coords, pcsconstants_header(record),
         pcsconstants_values(record));
-    for (int i = 0; i < 2 * n; ++i) coords[i] /= angular;
+    if (angular != 1.0)
+        for (int i = 0; i < 2 * n; ++i) coords[i] /= angular;
     return count;
 }

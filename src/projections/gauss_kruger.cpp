@@ -77,7 +77,9 @@ void tm_forward_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
         double *p = points + 2 * i;
         const double dl = fold_longitude(p[0] - lambda0);
         const double phi = clamp_pole(p[1]);
-        const double m = k0 * (meridian_arc_length(arc, phi) - tm.m0);
+        const double s = std::sin(phi), c = std::cos(phi);
+        const double m =
+            k0 * (meridian_arc_length(arc, phi, double_angle({s, c})) - tm.m0);
         if (is_pole(p[1])) {
             // A pole lies on the central meridian whatever the longitude;
             // the dl terms of the clamped latitude would only add noise.
@@ -85,24 +87,23 @@ void tm_forward_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
             p[1] = m;
             continue;
         }
-        const double s = std::sin(phi), c = std::cos(phi);
         const double t = s / c, T = t * t;
         const double h = tm.ep2 * c * c;
         const double kN = k0 * a / std::sqrt(1 - e2 * s * s);
         const double u = dl * c, u2 = u * u;
 
-        const double y4 = (5 - T + h * (9 + 4 * h)) / 24;
+        const double y4 = (5 - T + h * (9 + 4 * h)) * (1.0 / 24);
         const double y6 = (61 + T * (-58 + T) + h * (270 - 330 * T) +
                            h * h * (445 - 680 * T) +
                            h * h * h * (324 - 600 * T) +
-                           h * h * h * h * (88 - 192 * T)) /
-                          720;
-        const double y8 = (1385 + T * (-3111 + T * (543 - T))) / 40320;
-        const double x3 = (1 - T + h) / 6;
+                           h * h * h * h * (88 - 192 * T)) *
+                          (1.0 / 720);
+        const double y8 = (1385 + T * (-3111 + T * (543 - T))) * (1.0 / 40320);
+        const double x3 = (1 - T + h) * (1.0 / 6);
         const double x5 = (5 + T * (-18 + T) + h * (14 - 58 * T) +
-                           h * h * (13 - 64 * T) + h * h * h * (4 - 24 * T)) /
-                          120;
-        const double x7 = (61 + T * (-479 + T * (179 - T))) / 5040;
+                           h * h * (13 - 64 * T) + h * h * h * (4 - 24 * T)) *
+                          (1.0 / 120);
+        const double x7 = (61 + T * (-479 + T * (179 - T))) * (1.0 / 5040);
 
         p[1] = m + kN * t * u2 * (0.5 + u2 * (y4 + u2 * (y6 + u2 * y8)));
         p[0] = kN * u * (1 + u2 * (x3 + u2 * (x5 + u2 * x7)));
@@ -120,32 +121,39 @@ void tm_inverse_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
     const double lambda0 = params[kCentralMeridianSlot];
     const double k0 = params[kScaleFactorSlot];
     const double to_mu = kHalfPi / tm.q90;
+    // Reciprocals hoisted out of the loop: divisions dominate its cost.
+    const double inv_k0 = 1 / k0, inv_k0a = 1 / (k0 * a);
+    const double inv_one_minus_e2 = 1 / (1 - e2);
     const SineSeries to_phi = mu_to_phi_series(e2);
     for (int i = 0; i < n; ++i) {
         double *p = points + 2 * i;
         const double x = p[0], y = p[1];
-        const double mu = (y / k0 + tm.m0) * to_mu;
-        const double phi1 = mu + sine_series(mu, to_phi);
-        const double s = std::sin(phi1), c = std::cos(phi1);
+        const double mu = (y * inv_k0 + tm.m0) * to_mu;
+        const SinCos sc_mu{std::sin(mu), std::cos(mu)};
+        const SinCos twice_mu = double_angle(sc_mu);
+        const double footpoint_shift =
+            sine_series_2x(twice_mu.s, twice_mu.c, to_phi);
+        const double phi1 = mu + footpoint_shift;
+        const auto [s, c] = add_small_angle(sc_mu, footpoint_shift);
         const double t = s / c, T = t * t;
         const double h = tm.ep2 * c * c;
         const double w2 = 1 - e2 * s * s;
-        const double d = x * std::sqrt(w2) / (k0 * a);  // x / (k0 N)
+        const double d = x * std::sqrt(w2) * inv_k0a;  // x / (k0 N)
         const double d2 = d * d;
-        const double t_n_over_r = t * w2 / (1 - e2);
+        const double t_n_over_r = t * w2 * inv_one_minus_e2;
 
-        const double p4 = (5 + 3 * T + h * (1 - 9 * T - 4 * h)) / 24;
+        const double p4 = (5 + 3 * T + h * (1 - 9 * T - 4 * h)) * (1.0 / 24);
         const double p6 =
             (61 + T * (90 + 45 * T) + h * (46 - T * (252 + 90 * T)) +
              h * h * (-3 + T * (-66 + 225 * T)) + h * h * h * (100 + 84 * T) +
-             h * h * h * h * (88 - 192 * T)) /
-            720;
-        const double p8 = (1385 + T * (3633 + T * (4095 + 1575 * T))) / 40320;
-        const double l3 = (1 + 2 * T + h) / 6;
+             h * h * h * h * (88 - 192 * T)) *
+            (1.0 / 720);
+        const double p8 = (1385 + T * (3633 + T * (4095 + 1575 * T))) * (1.0 / 40320);
+        const double l3 = (1 + 2 * T + h) * (1.0 / 6);
         const double l5 = (5 + T * (28 + 24 * T) + h * (6 + 8 * T) +
-                           h * h * (-3 + 4 * T) + h * h * h * (-4 + 24 * T)) /
-                          120;
-        const double l7 = (61 + T * (662 + T * (1320 + 720 * T))) / 5020;
+                           h * h * (-3 + 4 * T) + h * h * h * (-4 + 24 * T)) *
+                          (1.0 / 120);
+        const double l7 = (61 + T * (662 + T * (1320 + 720 * T))) * (1.0 / 5020);
 
         p[1] = phi1 - t_n_over_r * d2 * (0.5 - d2 * (p4 - d2 * (p6 - d2 * p8)));
         const double dl = d * (1 - d2 * (l3 - d2 * (l5 - d2 * l7))) / c;

@@ -8,6 +8,8 @@
 #include "projections/projection_support.h"
 #include "projections/routines.h"
 
+#include <algorithm>
+
 namespace veltra {
 
 namespace {
@@ -34,6 +36,26 @@ Mercator mercator_values(const double *ellipsoid, const double *params,
     return mercator_setup(ellipsoid, params);
 }
 
+// The isometric latitude psi = ln tan(pi/4 + chi/2) is odd in chi and is
+// computed as copysign(ln A, chi) from the argument A >= 1 below.  The
+// forward loop first stores the signed A of a block of points and then
+// takes the logarithms, so no division waits in front of each logarithm.
+constexpr int kBlock = 64;
+
+// At the (clamped) poles A = tan(pi/4 + |chi|/2), the form whose value
+// there the library keeps; on |chi| because near the south pole
+// pi/4 + chi/2 would lose all but a few digits to cancellation.
+double signed_argument_at_pole(double chi) {
+    return std::copysign(std::tan(kQuarterPi + std::fabs(chi) / 2), chi);
+}
+
+// Elsewhere A = (1 + |sin chi|) / cos chi, the same quantity without a
+// tangent: sin and cos of chi come from those of phi turned by the small
+// series correction chi - phi.
+double signed_argument(SinCos chi) {
+    return std::copysign((1 + std::fabs(chi.s)) / chi.c, chi.s);
+}
+
 }  // namespace
 
 int mercator_constants(PcsConstants *record, const double *ellipsoid,
@@ -46,9 +68,7 @@ int mercator_constants(PcsConstants *record, const double *ellipsoid,
     return kConstantsCount;
 }
 
-// Poles are clamped, so no point fails.  ln tan(pi/4 + chi/2) is odd in chi
-// and is taken on |chi|: near the south pole pi/4 + chi/2 would lose all
-// but a few digits to cancellation, so both poles map to the same |y|.
+// Poles are clamped, so no point fails.
 int mercator_forward(const double *ellipsoid, const double *params, int n,
                      double *points, const int *header,
                      const double *constants) {
@@ -56,15 +76,24 @@ int mercator_forward(const double *ellipsoid, const double *params, int n,
     const double lambda0 = params[kCentralMeridianSlot];
     const bool ellipsoidal = is_ellipsoid(ellipsoid);
     const SineSeries to_chi = phi_to_chi_series(ellipsoid[1]);
-    for (int i = 0; i < n; ++i) {
-        double *p = points + 2 * i;
-        const double dl = fold_longitude(p[0] - lambda0);
-        const double phi = clamp_pole(p[1]);
-        const double chi =
-            ellipsoidal ? phi + sine_series(phi, to_chi) : phi;
-        p[0] = m.am1 * dl;
-        p[1] = std::copysign(
-            m.am1 * std::log(std::tan(kQuarterPi + std::fabs(chi) / 2)), chi);
+    for (int first = 0; first < n; first += kBlock) {
+        const int last = std::min(n, first + kBlock);
+        for (int i = first; i < last; ++i) {
+            double *p = points + 2 * i;
+            const double phi = clamp_pole(p[1]);
+            const SinCos sc_phi{std::sin(phi), std::cos(phi)};
+            const SinCos twice = double_angle(sc_phi);
+            // chi - phi by the conformal series.
+            const double d =
+                ellipsoidal ? sine_series_2x(twice.s, twice.c, to_chi) : 0.0;
+            p[0] = m.am1 * fold_longitude(p[0] - lambda0);
+            p[1] = is_pole(phi) ? signed_argument_at_pole(phi + d)
+                                : signed_argument(add_small_angle(sc_phi, d));
+        }
+        for (int i = first; i < last; ++i) {
+            double &y = points[2 * i + 1];
+            y = std::copysign(m.am1 * std::log(std::fabs(y)), y);
+        }
     }
     return all_points(n);
 }
