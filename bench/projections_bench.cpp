@@ -2,15 +2,15 @@
 // constants, beside the same operation through PROJ (an operation created
 // once from explicit parameters, radians in, proj_trans_generic).  Reports
 // nanoseconds per point.
-#include "projections/registry.h"
-#include "veltra.h"
-
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
 #include <cstring>
 #include <string>
 #include <vector>
+
+#include "projections/registry.h"
+#include "veltra.h"
 
 #if VELTRA_HAVE_PROJ
 #include <proj.h>
@@ -69,7 +69,8 @@ std::vector<double> radians_in(const Region &r) {
     };
     for (int i = 0; i < kPoints; ++i) {
         points[2 * i] = (r.west + (r.east - r.west) * uniform()) * kDegree;
-        points[2 * i + 1] = (r.south + (r.north - r.south) * uniform()) * kDegree;
+        points[2 * i + 1] =
+            (r.south + (r.north - r.south) * uniform()) * kDegree;
     }
     return points;
 }
@@ -78,9 +79,10 @@ std::vector<double> radians_in(const Region &r) {
 // to the routine unchanged.
 ka_projcs *make_system(const Case &c) {
     ka_parameter *slots[KA_PARAMETER_SLOTS] = {};
-    slots[2] = ka_parameter_new("Central_Meridian", c.central_meridian * kDegree);
-    slots[3] = ka_parameter_new("Standard_Parallel_1",
-                                c.standard_parallel * kDegree);
+    slots[2] =
+        ka_parameter_new("Central_Meridian", c.central_meridian * kDegree);
+    slots[3] =
+        ka_parameter_new("Standard_Parallel_1", c.standard_parallel * kDegree);
     slots[5] = ka_parameter_new("Scale_Factor", c.scale_factor);
     ka_geogcs *geogcs = ka_geogcs_new(
         "GCS", ka_datum_new("D", ka_spheroid_new("S", 6378137, c.flattening)),

@@ -25,7 +25,7 @@ constexpr double kClampedB = 0.9999999999999964;
 
 struct TransverseMercator {
     bool ellipsoidal;
-    double ep2, m0, q90;  // ellipsoid
+    double ep2, m0, q90;   // ellipsoid
     double ak0, half_ak0;  // sphere
 };
 
@@ -93,11 +93,11 @@ void tm_forward_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
         const double u = dl * c, u2 = u * u;
 
         const double y4 = (5 - T + h * (9 + 4 * h)) * (1.0 / 24);
-        const double y6 = (61 + T * (-58 + T) + h * (270 - 330 * T) +
-                           h * h * (445 - 680 * T) +
-                           h * h * h * (324 - 600 * T) +
-                           h * h * h * h * (88 - 192 * T)) *
-                          (1.0 / 720);
+        const double y6 =
+            (61 + T * (-58 + T) + h * (270 - 330 * T) +
+             h * h * (445 - 680 * T) + h * h * h * (324 - 600 * T) +
+             h * h * h * h * (88 - 192 * T)) *
+            (1.0 / 720);
         const double y8 = (1385 + T * (-3111 + T * (543 - T))) * (1.0 / 40320);
         const double x3 = (1 - T + h) * (1.0 / 6);
         const double x5 = (5 + T * (-18 + T) + h * (14 - 58 * T) +
@@ -148,12 +148,14 @@ void tm_inverse_ellipsoid(const TransverseMercator &tm, const double *ellipsoid,
              h * h * (-3 + T * (-66 + 225 * T)) + h * h * h * (100 + 84 * T) +
              h * h * h * h * (88 - 192 * T)) *
             (1.0 / 720);
-        const double p8 = (1385 + T * (3633 + T * (4095 + 1575 * T))) * (1.0 / 40320);
+        const double p8 =
+            (1385 + T * (3633 + T * (4095 + 1575 * T))) * (1.0 / 40320);
         const double l3 = (1 + 2 * T + h) * (1.0 / 6);
         const double l5 = (5 + T * (28 + 24 * T) + h * (6 + 8 * T) +
                            h * h * (-3 + 4 * T) + h * h * h * (-4 + 24 * T)) *
                           (1.0 / 120);
-        const double l7 = (61 + T * (662 + T * (1320 + 720 * T))) * (1.0 / 5020);
+        const double l7 =
+            (61 + T * (662 + T * (1320 + 720 * T))) * (1.0 / 5020);
 
         p[1] = phi1 - t_n_over_r * d2 * (0.5 - d2 * (p4 - d2 * (p6 - d2 * p8)));
         const double dl = d * (1 - d2 * (l3 - d2 * (l5 - d2 * l7))) / c;

@@ -14,18 +14,22 @@ int plate_carree_inverse(const double *ellipsoid, const double *params, int n,
                          double *points, const int *constants_header,
                          const double *constants);
 
-int equidistant_cylindrical_forward(const double *ellipsoid, const double *params, int n,
-                                    double *points, const int *constants_header,
+int equidistant_cylindrical_forward(const double *ellipsoid,
+                                    const double *params, int n, double *points,
+                                    const int *constants_header,
                                     const double *constants);
-int equidistant_cylindrical_inverse(const double *ellipsoid, const double *params, int n,
-                                    double *points, const int *constants_header,
+int equidistant_cylindrical_inverse(const double *ellipsoid,
+                                    const double *params, int n, double *points,
+                                    const int *constants_header,
                                     const double *constants);
 
-int miller_cylindrical_forward(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int miller_cylindrical_forward(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
-int miller_cylindrical_inverse(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int miller_cylindrical_inverse(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
 
 int mercator_forward(const double *ellipsoid, const double *params, int n,
@@ -35,25 +39,29 @@ int mercator_inverse(const double *ellipsoid, const double *params, int n,
                      double *points, const int *constants_header,
                      const double *constants);
 int mercator_constants(PcsConstants *record, const double *ellipsoid,
-                        const double *params);
+                       const double *params);
 
-int gall_stereographic_forward(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int gall_stereographic_forward(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
-int gall_stereographic_inverse(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int gall_stereographic_inverse(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
 int gall_stereographic_constants(PcsConstants *record, const double *ellipsoid,
-                                  const double *params);
+                                 const double *params);
 
-int cylindrical_eqarea_forward(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int cylindrical_eqarea_forward(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
-int cylindrical_eqarea_inverse(const double *ellipsoid, const double *params, int n,
-                               double *points, const int *constants_header,
+int cylindrical_eqarea_inverse(const double *ellipsoid, const double *params,
+                               int n, double *points,
+                               const int *constants_header,
                                const double *constants);
 int cylindrical_eqarea_constants(PcsConstants *record, const double *ellipsoid,
-                                  const double *params);
+                                 const double *params);
 
 int behrmann_forward(const double *ellipsoid, const double *params, int n,
                      double *points, const int *constants_header,
@@ -62,7 +70,7 @@ int behrmann_inverse(const double *ellipsoid, const double *params, int n,
                      double *points, const int *constants_header,
                      const double *constants);
 int behrmann_constants(PcsConstants *record, const double *ellipsoid,
-                        const double *params);
+                       const double *params);
 
 // Transverse_Mercator and Gauss_Kruger.
 int gauss_kruger_forward(const double *ellipsoid, const double *params, int n,
@@ -72,6 +80,6 @@ int gauss_kruger_inverse(const double *ellipsoid, const double *params, int n,
                          double *points, const int *constants_header,
                          const double *constants);
 int gauss_kruger_constants(PcsConstants *record, const double *ellipsoid,
-                            const double *params);
+                           const double *params);
 
 }  // namespace veltra

@@ -1,5 +1,5 @@
 // PROJ as an independent numerical oracle: one operation created from an
-// explicit parameter string, radians in and metres out.
+// explicit parameter string; radians and metres.
 #pragma once
 
 #if VELTRA_HAVE_PROJ
@@ -23,19 +23,12 @@ class ProjOracle {
 
     bool valid() const { return pj_ != nullptr; }
 
-    // lon, lat in radians -> x, y in metres.
-    void forward(double lon, double lat, double &x, double &y) const {
-        PJ_COORD c = proj_coord(lon, lat, 0, 0);
-        c = proj_trans(pj_, PJ_FWD, c);
-        x = c.xy.x;
-        y = c.xy.y;
-    }
-    // x, y in metres -> lon, lat in radians.
-    void inverse(double x, double y, double &lon, double &lat) const {
-        PJ_COORD c = proj_coord(x, y, 0, 0);
-        c = proj_trans(pj_, PJ_INV, c);
-        lon = c.lp.lam;
-        lat = c.lp.phi;
+    // (lon, lat) -> (x, y) forward; (x, y) -> (lon, lat) inverse.
+    void run(PJ_DIRECTION direction, double a, double b, double &u,
+             double &v) const {
+        const PJ_COORD c = proj_trans(pj_, direction, proj_coord(a, b, 0, 0));
+        u = c.v[0];
+        v = c.v[1];
     }
 
   private:

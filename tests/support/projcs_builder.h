@@ -15,10 +15,9 @@ namespace veltra::test {
 inline constexpr double kDegree = 0.017453292519943295;  // radians per degree
 inline constexpr double kGrad = 0.015707963267948967;    // radians per grad
 inline constexpr double kUsFoot = 0.3048006096012192;     // metres per foot
-
-// WGS 84 and Clarke 1866 (Snyder's examples).
 inline constexpr double kWgs84Axis = 6378137.0;
 inline constexpr double kWgs84Flattening = 1 / 298.257223563;
+inline constexpr double kWgs84E2 = (2 - kWgs84Flattening) * kWgs84Flattening;
 
 struct ParameterValue {
     const char *name;
@@ -37,7 +36,7 @@ struct ProjcsDeleter {
 using ProjcsPtr = std::unique_ptr<ka_projcs, ProjcsDeleter>;
 
 inline ka_geogcs *make_geogcs(double axis, double flattening,
-                              const Units &units) {
+                              const Units &units = {}) {
     return ka_geogcs_new(
         "GCS_Test",
         ka_datum_new("D_Test", ka_spheroid_new("Test", axis, flattening)),
@@ -52,11 +51,10 @@ inline std::array<ka_parameter *, KA_PARAMETER_SLOTS> make_parameters(
     for (const ParameterValue &v : values) {
         ka_parameter *p = ka_parameter_new(v.name, v.value);
         const int slot = ka_parameter_index(p);
-        if (slot < 0) {
+        if (slot >= 0)
+            slots[static_cast<std::size_t>(slot)] = p;
+        else
             ka_parameter_del(p);
-            continue;
-        }
-        slots[static_cast<std::size_t>(slot)] = p;
     }
     return slots;
 }
@@ -64,10 +62,10 @@ inline std::array<ka_parameter *, KA_PARAMETER_SLOTS> make_parameters(
 inline ProjcsPtr make_projcs(const char *projection, double axis,
                              double flattening,
                              std::initializer_list<ParameterValue> values,
-                             const Units &units = {}) {
+                             const Units &units = {},
+                             const char *name = "PCS_Test") {
     auto parameters = make_parameters(values);
-    return ProjcsPtr(ka_projcs_new("PCS_Test",
-                                   make_geogcs(axis, flattening, units),
+    return ProjcsPtr(ka_projcs_new(name, make_geogcs(axis, flattening, units),
                                    registry_projection(projection),
                                    parameters.data(),
                                    ka_unit_new("Test_Length", units.linear)));
