@@ -5,6 +5,8 @@
 // uses the general cofactor inverse of R and the reciprocal scale.
 #include "transforms/methods.h"
 
+#include "projections/math.h"
+
 #include <cmath>
 
 namespace veltra {
@@ -63,10 +65,11 @@ void invert(const Matrix r, Matrix inverse) {
 int similarity(const double *from, const double *to, const Matrix m,
                const double *before, const double *after, int n,
                double *coords, double *heights) {
+    const Geocentric source(from[0], from[1]), target(to[0], to[1]);
     for (int i = 0; i < n; ++i) {
         double x, y, z;
-        ka_curv_to_cart(from[0], from[1], coords[2 * i + 1], coords[2 * i],
-                        input_height(heights, i), &x, &y, &z);
+        source.to_cartesian(coords[2 * i + 1], coords[2 * i],
+                            input_height(heights, i), x, y, z);
         x -= before[0];
         y -= before[1];
         z -= before[2];
@@ -74,8 +77,7 @@ int similarity(const double *from, const double *to, const Matrix m,
         const double ty = m[1][0] * x + m[1][1] * y + m[1][2] * z + after[1];
         const double tz = m[2][0] * x + m[2][1] * y + m[2][2] * z + after[2];
         double latitude, longitude, height;
-        ka_cart_to_curv(to[0], to[1], tx, ty, tz, &latitude, &longitude,
-                        &height);
+        target.to_geodetic(tx, ty, tz, latitude, longitude, height);
         store_point(coords, heights, i, latitude, longitude, height);
     }
     return n;

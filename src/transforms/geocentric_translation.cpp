@@ -2,6 +2,8 @@
 // by (dx, dy, dz) between the two spheroids.
 #include "transforms/methods.h"
 
+#include "projections/math.h"
+
 namespace veltra {
 
 namespace {
@@ -13,13 +15,14 @@ int translate(const double *from, const double *to, const double *values,
     const double dx = sign * values[kSlotDx];
     const double dy = sign * values[kSlotDy];
     const double dz = sign * values[kSlotDz];
+    const Geocentric source(from[0], from[1]), target(to[0], to[1]);
     for (int i = 0; i < n; ++i) {
         double x, y, z;
-        ka_curv_to_cart(from[0], from[1], coords[2 * i + 1], coords[2 * i],
-                        input_height(heights, i), &x, &y, &z);
+        source.to_cartesian(coords[2 * i + 1], coords[2 * i],
+                            input_height(heights, i), x, y, z);
         double latitude, longitude, height;
-        ka_cart_to_curv(to[0], to[1], x + dx, y + dy, z + dz, &latitude,
-                        &longitude, &height);
+        target.to_geodetic(x + dx, y + dy, z + dz, latitude, longitude,
+                           height);
         store_point(coords, heights, i, latitude, longitude, height);
     }
     return n;

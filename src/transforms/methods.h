@@ -99,6 +99,14 @@ inline double input_height(const double *heights, int i) {
     return heights != nullptr ? heights[i] : 0.0;
 }
 
+// ka_delta(longitude), which leaves a longitude within [-pi, pi] as it is:
+// only one outside is handed to it.
+inline double fold_longitude(double longitude) {
+    constexpr double kPi = std::numbers::pi;
+    return longitude >= -kPi && longitude <= kPi ? longitude
+                                                 : ka_delta(longitude);
+}
+
 // Common output step: the latitude clamped into [-pi/2, pi/2], the
 // longitude folded into [-pi, pi], the height written when heights are kept.
 inline void store_point(double *coords, double *heights, int i,
@@ -106,7 +114,7 @@ inline void store_point(double *coords, double *heights, int i,
     constexpr double kHalfPi = std::numbers::pi / 2;
     if (latitude > kHalfPi) latitude = kHalfPi;
     if (latitude < -kHalfPi) latitude = -kHalfPi;
-    coords[2 * i] = ka_delta(longitude);
+    coords[2 * i] = fold_longitude(longitude);
     coords[2 * i + 1] = latitude;
     if (heights != nullptr) heights[i] = height;
 }

@@ -4,6 +4,7 @@
 #include "transforms/methods.h"
 
 #include "core/tolerance.h"
+#include "projections/math.h"
 
 #include <cmath>
 
@@ -27,8 +28,8 @@ int molodensky_abridged_forward(const double *spheroid1,
         const double h = input_height(heights, i);
         const double sin_p = std::sin(p), cos_p = std::cos(p);
         const double sin_l = std::sin(l), cos_l = std::cos(l);
-        const double m = ka_m(a1, e2, p);
-        const double nu = ka_n(a1, e2, p);
+        const Radii r = radii(a1, e2, sin_p);
+        const double m = r.m, nu = r.n;
 
         const double dp = (-sin_p * cos_l * dx - sin_p * sin_l * dy +
                            cos_p * dz + 2 * k * sin_p * cos_p) /
