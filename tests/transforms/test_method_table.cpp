@@ -6,12 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 namespace {
 
 std::string name_of(const ka_method *method) {
     char name[KA_NAME_MAX];
     ka_method_name(method, name);
+    return name;
+}
+
+std::string name_of_parameter(const ka_parameter *parameter) {
+    char name[KA_NAME_MAX];
+    ka_parameter_name(parameter, name);
     return name;
 }
 
@@ -78,43 +85,29 @@ TEST(MethodTable, RoutinesSharedBetweenConventions) {
         ka_method_del(m);
 }
 
-struct Defaults {
-    int code;
-    int count;
-    const char *names[KA_PARAMETER_SLOTS];
-};
+// The transformation parameters by slot; a method's defaults are the first
+// `count` of them, with value 0.
+constexpr const char *kTransformationParameters[] = {
+    "X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation",
+    "X_Axis_Rotation",    "Y_Axis_Rotation",    "Z_Axis_Rotation",
+    "Scale_Difference"};
 
 TEST(MethodDefaults, ListsByMethod) {
-    const Defaults cases[] = {
-        {9601, 0, {}},
-        {9603, 3, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation"}},
-        {9604, 3, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation"}},
-        {9605, 3, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation"}},
-        {9606, 7, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation",
-                   "X_Axis_Rotation", "Y_Axis_Rotation", "Z_Axis_Rotation",
-                   "Scale_Difference"}},
-        {9607, 7, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation",
-                   "X_Axis_Rotation", "Y_Axis_Rotation", "Z_Axis_Rotation",
-                   "Scale_Difference"}},
-        {109607, 7, {"X_Axis_Translation", "Y_Axis_Translation", "Z_Axis_Translation",
-                     "X_Axis_Rotation", "Y_Axis_Rotation", "Z_Axis_Rotation",
-                     "Scale_Difference"}},
-    };
-    for (const Defaults &c : cases) {
-        SCOPED_TRACE(c.code);
-        ka_method *method = ka_factory_method(c.code);
+    const std::pair<int, int> counts[] = {{9601, 0}, {9603, 3}, {9604, 3},
+                                          {9605, 3}, {9606, 7}, {9607, 7},
+                                          {109607, 7}};
+    for (auto [code, count] : counts) {
+        SCOPED_TRACE(code);
+        ka_method *method = ka_factory_method(code);
         ka_parameter *slots[KA_PARAMETER_SLOTS];
         for (auto &slot : slots) slot = reinterpret_cast<ka_parameter *>(1);
-        EXPECT_EQ(ka_parameter_method_defaults(method, slots), c.count);
+        EXPECT_EQ(ka_parameter_method_defaults(method, slots), count);
         for (int i = 0; i < KA_PARAMETER_SLOTS; ++i) {
-            if (c.names[i] == nullptr) {
+            if (i >= count) {
                 EXPECT_EQ(slots[i], nullptr) << i;
                 continue;
             }
-            EXPECT_EQ(ka_parameter_index(slots[i]), i);
-            char name[KA_NAME_MAX];
-            ka_parameter_name(slots[i], name);
-            EXPECT_STREQ(name, c.names[i]);
+            EXPECT_EQ(name_of_parameter(slots[i]), kTransformationParameters[i]);
             EXPECT_EQ(ka_parameter_value(slots[i]), 0.0);
             ka_parameter_del(slots[i]);
         }
