@@ -25,9 +25,11 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 // Below this eccentricity squared the spheroid is treated as a sphere.
 constexpr double kSphereE2 = 0x1p-48;
 
-// Newton's method stops once its step in alpha1 is below this; the last
-// step is still applied, so the azimuth error is of the order of its
-// square, and the distance is corrected to first order in it.
+// Newton's method stops once both its step in alpha1 and the residual in
+// lambda12 are below this (the residual too, because near the cusp of the
+// antipodal region lambda12 is far from linear).  The last step is still
+// applied, so the azimuth error is of the order of its square, and the
+// distance is corrected to first order in it.
 constexpr double kStepTol = 0x1p-30;
 // Newton and bisection rounds together: bisection alone narrows the
 // bracket [0, pi] to a double's resolution well within this.
@@ -189,7 +191,7 @@ struct Problem {
 // The geodesic leaving point 1 with azimuth alpha1, followed to where it
 // first reaches the latitude of point 2 heading north.
 struct Arc {
-    double lam12;   // longitude difference reached
+    double residual;  // longitude difference reached, less that of point 2
     double dlam12;  // its derivative with respect to alpha1
     double salp2, calp2;
     double ssig1, csig1, ssig2, csig2, sig12;
@@ -280,8 +282,13 @@ Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1,
     // sigma12 and omega12 lie in [0, pi]: clamp the rounding of their sines.
     arc.sig12 = std::atan2(std::max(0.0, arc.csig1 * arc.ssig2 - arc.ssig1 * arc.csig2),
                            arc.csig1 * arc.csig2 + arc.ssig1 * arc.ssig2);
-    double omg12 = std::atan2(std::max(0.0, comg1 * somg2 - somg1 * comg2),
-                              comg1 * comg2 + somg1 * somg2);
+    // omega12 less the longitude difference of point 2, as one small angle
+    // (its sine and cosine by the difference formulas) so that the residual
+    // keeps its relative precision as it vanishes.
+    double somg12 = std::max(0.0, comg1 * somg2 - somg1 * comg2);
+    double comg12 = comg1 * comg2 + somg1 * somg2;
+    double domg = std::atan2(somg12 * p.clam12 - comg12 * p.slam12,
+                             comg12 * p.clam12 + somg12 * p.slam12);
 
     // lambda12 = omega12 - f sin(alpha0) (I3(sigma2) - I3(sigma1)).
     arc.eps = sp.eps_of(sq(calp0));
@@ -289,7 +296,7 @@ Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1,
     sp.c3_of(arc.eps, c3);
     double i3_12 = arc.sig12 + sine_sum(c3, arc.ssig2, arc.csig2) -
                    sine_sum(c3, arc.ssig1, arc.csig1);
-    arc.lam12 = omg12 - sp.f * salp0 * sp.a3_of(arc.eps) * i3_12;
+    arc.residual = domg - sp.f * salp0 * sp.a3_of(arc.eps) * i3_12;
 
     // d lambda12 / d alpha1 = m12 / (a cos alpha2 cos beta2); where the
     // geodesic arrives due east (beta2 = -beta1, alpha1 = pi/2) the limit
@@ -395,15 +402,16 @@ Solution solve(const Spheroid &sp, const Problem &p) {
     bool converged = false;
     for (int round = 0; round < kMaxRounds && !converged; ++round) {
         arc = follow(sp, p, std::sin(alpha1), std::cos(alpha1), false);
-        residual = arc.lam12 - p.lam12;
+        residual = arc.residual;
         if (residual > 0)
             hi = std::min(hi, alpha1);
         else
             lo = std::max(lo, alpha1);
         double step = -residual / arc.dlam12;
         double next = alpha1 + step;
-        converged = residual == 0 ||
-                    (std::fabs(step) <= kStepTol && next >= lo && next <= hi);
+        converged = residual == 0 || (std::fabs(step) <= kStepTol &&
+                                      std::fabs(residual) <= kStepTol &&
+                                      next >= lo && next <= hi);
         if (!converged && !(next > lo && next < hi)) {
             next = (lo + hi) / 2;
             // A bracket at the resolution of a double ends the search.
