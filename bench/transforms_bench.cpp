@@ -227,4 +227,3 @@ VELTRA_BENCH_CASE(longitude_rotation, kLongitudeRotation);
 
 }  // namespace
 
-BENCHMARK_MAIN();
