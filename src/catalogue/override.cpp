@@ -14,7 +14,6 @@
 
 #include <climits>
 #include <cstdio>
-#include <cstring>
 
 namespace veltra::catalogue {
 
@@ -27,17 +26,15 @@ constexpr std::size_t kPathMax = 4096;
 // skipped, never read as a line of its own.
 constexpr int kLineMax = Tokens::kBufferSize - 1;
 
-// Reads one line of at most kLineMax characters into line; false at the end
+// Reads one line, keeping its first kLineMax characters; false at the end
 // of the file.
 bool read_line(std::FILE *file, char (&line)[kLineMax + 1]) {
-    if (std::fgets(line, sizeof line, file) == nullptr) return false;
-    const std::size_t length = std::strlen(line);
-    const bool complete = length > 0 && line[length - 1] == '\n';
-    if (!complete && !std::feof(file)) {
-        int c;
-        do c = std::getc(file);
-        while (c != '\n' && c != EOF);
-    }
+    int c = std::getc(file);
+    if (c == EOF) return false;
+    int length = 0;
+    for (; c != EOF && c != '\n'; c = std::getc(file))
+        if (length < kLineMax) line[length++] = static_cast<char>(c);
+    line[length] = '\0';
     return true;
 }
 

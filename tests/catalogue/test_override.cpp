@@ -196,6 +196,9 @@ TEST(OverrideFile, HostileLinesDoNotBreakTheReader) {
     EXPECT_EQ(datum_name(6326), "D_WGS_1984");
     home.write("datum", long_line + "DATUM,6326,After_Long_Line,7030\n");
     EXPECT_EQ(datum_name(6326), "After_Long_Line");
+    // A line with a zero byte ends there; the next line is still read.
+    home.write("datum", binary + "\nDATUM,6326,After_Binary,7030\n");
+    EXPECT_EQ(datum_name(6326), "After_Binary");
     // A name longer than a name field is cut.
     home.write("datum", "DATUM,6326," + std::string(200, 'N') + ",7030\n");
     EXPECT_EQ(datum_name(6326), std::string(KA_NAME_MAX - 1, 'N'));
