@@ -99,6 +99,10 @@ struct KindLists {
     ka_predefined *(*predefined)(int *);
     CodeKind code_kind;
     int size;  // catalogue size
+    // Codes the factory builds that no code list holds: Bursa-Wolf, whose
+    // macro code is 42607, and "NTF_To_RGF_1993_1", whose macro name shares
+    // the code of KA_GT_NAD_1983_TO_HARN_WV.
+    std::vector<int> extra = {};
 };
 
 const KindLists kKinds[] = {
@@ -117,11 +121,11 @@ const KindLists kKinds[] = {
     {"projection", ka_factory_projection_codelist, ka_predefined_projection,
      CodeKind::kProjection, 51},
     {"method", ka_factory_method_codelist, ka_predefined_method,
-     CodeKind::kMethod, 10},
+     CodeKind::kMethod, 10, {109607}},
     {"parameter", ka_factory_parameter_codelist, ka_predefined_parameter,
      CodeKind::kParameter, 29},
     {"geogtran", ka_factory_geogtran_codelist, ka_predefined_geogtran,
-     CodeKind::kGeogtran, 452},
+     CodeKind::kGeogtran, 452, {108024}},
 };
 
 TEST(CodeLists, HoldTheCatalogueSizes) {
@@ -167,7 +171,9 @@ TEST(PredefinedLists, SortedByNameAndHoldEveryBuildableCode) {
             }
         }
         EXPECT_EQ(codes.size(), static_cast<size_t>(count)) << kind.kind;
-        EXPECT_EQ(codes, buildable(kind)) << kind.kind;
+        std::set<int> expected = buildable(kind);
+        expected.insert(kind.extra.begin(), kind.extra.end());
+        EXPECT_EQ(codes, expected) << kind.kind;
         ka_table_del(list);
     }
     EXPECT_EQ(ka_predefined_datum(nullptr), nullptr);
