@@ -741,20 +741,28 @@ def check_sorted(kind, rows):
 # ---------------------------------------------------------------------------
 # Geographic transformations
 
-# Rotation units to arc-seconds.  An arc-second is pi/648000 rad; a
-# centesimal second is 1e-4 gon = 0.324 arc-seconds.
+# EPSG units of the transformation parameters, as factors to the
+# catalogue's metres, arc-seconds and parts per million.  Decimal factors
+# are exact (a centesimal second is 1e-4 gon = 0.324 arc-seconds); those
+# through radians (an arc-second is pi/648000 rad) are doubles.
 ARCSEC_PER_RADIAN = 648000 / math.pi
+TRANSLATION_TO_METRES = {9001: Decimal(1), 1025: Decimal('0.001'), 1033: Decimal('0.01')}
 ROTATION_TO_ARCSEC = {
-    9104: 1.0,
-    1031: 0.001,
-    9113: 0.324,
+    9104: Decimal(1),
+    1031: Decimal('0.001'),
+    9113: Decimal('0.324'),
     9109: 1e-6 * ARCSEC_PER_RADIAN,
     9101: ARCSEC_PER_RADIAN,
 }
-# Scale-difference units to parts per million.
-SCALE_TO_PPM = {9202: 1.0, 1028: 0.001, 9201: 1e6}
-# Translation units to metres.
-TRANSLATION_TO_METRES = {9001: 1.0, 1025: 0.001, 1033: 0.01}
+SCALE_TO_PPM = {9202: Decimal(1), 1028: Decimal('0.001'), 9201: Decimal(1000000)}
+
+
+def converted(text, factor):
+    """A record's decimal value times a unit factor, as a double."""
+    if isinstance(factor, Decimal):
+        return float(Decimal(text) * factor)
+    return float(Decimal(text)) * factor
+
 
 METHOD_NAMES = {
     LONGITUDE_ROTATION: 'longitude rotation', NADCON: 'NADCON', HARN: 'HARN', NTV2: 'NTv2',
@@ -853,17 +861,16 @@ def epsg_system_codes(gcs, epsg):
 def convert_helmert(row):
     method = HELMERT_METHODS[int(row['method_code'])]
     to_metres = TRANSLATION_TO_METRES[int(row['translation_uom_code'])]
-    parameters = [(X_TRANSLATION, float(Decimal(row['tx'])) * to_metres),
-                  (Y_TRANSLATION, float(Decimal(row['ty'])) * to_metres),
-                  (Z_TRANSLATION, float(Decimal(row['tz'])) * to_metres)]
+    parameters = [(X_TRANSLATION, converted(row['tx'], to_metres)),
+                  (Y_TRANSLATION, converted(row['ty'], to_metres)),
+                  (Z_TRANSLATION, converted(row['tz'], to_metres))]
     if method != GEOCENTRIC_TRANSLATION:
         to_arcsec = ROTATION_TO_ARCSEC[int(row['rotation_uom_code'])]
         to_ppm = SCALE_TO_PPM[int(row['scale_difference_uom_code'])]
-        parameters += [(X_ROTATION, float(Decimal(row['rx'])) * to_arcsec),
-                       (Y_ROTATION, float(Decimal(row['ry'])) * to_arcsec),
-                       (Z_ROTATION, float(Decimal(row['rz'])) * to_arcsec),
-                       (SCALE_DIFFERENCE,
-                        float(Decimal(row['scale_difference'])) * to_ppm)]
+        parameters += [(X_ROTATION, converted(row['rx'], to_arcsec)),
+                       (Y_ROTATION, converted(row['ry'], to_arcsec)),
+                       (Z_ROTATION, converted(row['rz'], to_arcsec)),
+                       (SCALE_DIFFERENCE, converted(row['scale_difference'], to_ppm))]
     return method, parameters
 
 
