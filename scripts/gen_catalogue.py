@@ -39,15 +39,6 @@ X_TRANSLATION, Y_TRANSLATION, Z_TRANSLATION = 100040, 100041, 100042
 X_ROTATION, Y_ROTATION, Z_ROTATION = 100043, 100044, 100045
 SCALE_DIFFERENCE = 100046
 
-# EPSG units of the transformation parameters, as factors to the catalogue's
-# units: metres, arc-seconds and parts per million.
-TRANSLATION_TO_METRES = {9001: Decimal(1), 1025: Decimal('0.001'), 1033: Decimal('0.01')}
-ROTATION_TO_ARCSEC = {
-    9104: Decimal(1),
-    1031: Decimal('0.001'),
-}
-SCALE_TO_PPM = {9202: Decimal(1), 1028: Decimal('0.001'), 9201: Decimal(1000000)}
-
 # EPSG angular units of geographic CRS axes, to the catalogue's units.
 EPSG_AXIS_UNIT = {9122: 9102, 9102: 9102, 9108: 9102, 9105: 9105}
 
@@ -292,6 +283,7 @@ class Geogcs:
         self.reason = None
         self.meridian = None      # prime-meridian name behind the datum's
         self.twin_of = None       # grad system of a "_Degree" twin
+        self.through_datum = False  # matched as the EPSG system of its datum
 
 
 def spheroid_in_catalogue(epsg_ellipsoid_code, spheroid_codes):
@@ -436,6 +428,7 @@ def match_geogcs(gcs, epsg, gcs_index):
             if on_datum:
                 if datum.values_from == datum.epsg:
                     gcs.epsg = gcs.values_from = on_datum[0]
+                    gcs.through_datum = True
                 else:
                     gcs.values_from = on_datum[0]
                     gcs.reason = datum.reason
@@ -575,6 +568,12 @@ def finish_geogcs(epsg, systems, report):
                        'the catalogue keeps one datum for all meridians')
         elif datum_code != expected and gcs.values_from == gcs.epsg:
             fail('%s: datum %s, %s datum %d' % (gcs.name, expected, where, datum_code))
+        if gcs.through_datum and gcs.datum.name in data.DATUM_EPSG:
+            report.add('geogcs', gcs.code, gcs.name, 'EPSG name %s' % record['name'],
+                       'matched through its datum %s' % gcs.datum.name)
+        if gcs.name in data.GEOGCS_EPSG and gcs.code == gcs.epsg:
+            report.add('geogcs', gcs.code, gcs.name, 'EPSG name %s' % record['name'],
+                       'matched by decision (the name rule finds no or another system)')
         if gcs.epsg is not None and gcs.code != gcs.epsg:
             report.add('geogcs', gcs.code, gcs.name,
                        'EPSG holds it as %d %s' % (gcs.epsg, record['name']),
@@ -613,6 +612,10 @@ def report_datums(epsg, datums, spheroids, report):
                            % (datum.spheroid, datum.values_from, ellipsoid,
                               epsg.ellipsoids[ellipsoid]['name']),
                            'the same figure under the catalogue\'s code')
+        if name in data.DATUM_EPSG and datum.epsg == code:
+            report.add('datums', code, name,
+                       'EPSG name %s' % epsg.datums[code]['name'],
+                       'matched by decision (the name rule finds no or another datum)')
         if datum.epsg is not None and datum.epsg != code:
             report.add('datums', code, name,
                        'EPSG holds it as %d %s' % (datum.epsg, epsg.datums[datum.epsg]['name']),
@@ -738,20 +741,34 @@ def check_sorted(kind, rows):
 # ---------------------------------------------------------------------------
 # Geographic transformations
 
-# Rotation units to arc-seconds.  An arc-second is pi/648000 rad; a
-# centesimal second is 1e-4 gon = 0.324 arc-seconds.
+# EPSG units of the transformation parameters, as factors to the
+# catalogue's metres, arc-seconds and parts per million.  Decimal factors
+# are exact (a centesimal second is 1e-4 gon = 0.324 arc-seconds); those
+# through radians (an arc-second is pi/648000 rad) are doubles.
 ARCSEC_PER_RADIAN = 648000 / math.pi
+TRANSLATION_TO_METRES = {9001: Decimal(1), 1025: Decimal('0.001'), 1033: Decimal('0.01')}
 ROTATION_TO_ARCSEC = {
-    9104: 1.0,
-    1031: 0.001,
-    9113: 0.324,
+    9104: Decimal(1),
+    1031: Decimal('0.001'),
+    9113: Decimal('0.324'),
     9109: 1e-6 * ARCSEC_PER_RADIAN,
     9101: ARCSEC_PER_RADIAN,
 }
-# Scale-difference units to parts per million.
-SCALE_TO_PPM = {9202: 1.0, 1028: 0.001, 9201: 1e6}
-# Translation units to metres.
-TRANSLATION_TO_METRES = {9001: 1.0, 1025: 0.001, 1033: 0.01}
+SCALE_TO_PPM = {9202: Decimal(1), 1028: Decimal('0.001'), 9201: Decimal(1000000)}
+
+
+def converted(text, factor):
+    """A record's decimal value times a unit factor, as a double."""
+    if isinstance(factor, Decimal):
+        return float(Decimal(text) * factor)
+    return float(Decimal(text)) * factor
+
+
+METHOD_NAMES = {
+    LONGITUDE_ROTATION: 'longitude rotation', NADCON: 'NADCON', HARN: 'HARN', NTV2: 'NTv2',
+    GEOCENTRIC_TRANSLATION: 'geocentric translation',
+    POSITION_VECTOR: 'position vector', COORDINATE_FRAME: 'coordinate frame',
+}
 
 HELMERT_METHODS = {
     9603: GEOCENTRIC_TRANSLATION,
@@ -777,6 +794,8 @@ class Geogtran:
         self.note = None          # why the transformation has no row
         self.reason = None        # why its values come from another record
         self.epsg_method = None   # EPSG's method where the catalogue keeps its own
+        self.system_notes = []    # (deviation, decision) of source and target
+        self.group_method = None  # method of its group in the catalogue's order
 
 
 def variant_number(name):
@@ -842,17 +861,16 @@ def epsg_system_codes(gcs, epsg):
 def convert_helmert(row):
     method = HELMERT_METHODS[int(row['method_code'])]
     to_metres = TRANSLATION_TO_METRES[int(row['translation_uom_code'])]
-    parameters = [(X_TRANSLATION, float(Decimal(row['tx'])) * to_metres),
-                  (Y_TRANSLATION, float(Decimal(row['ty'])) * to_metres),
-                  (Z_TRANSLATION, float(Decimal(row['tz'])) * to_metres)]
+    parameters = [(X_TRANSLATION, converted(row['tx'], to_metres)),
+                  (Y_TRANSLATION, converted(row['ty'], to_metres)),
+                  (Z_TRANSLATION, converted(row['tz'], to_metres))]
     if method != GEOCENTRIC_TRANSLATION:
         to_arcsec = ROTATION_TO_ARCSEC[int(row['rotation_uom_code'])]
         to_ppm = SCALE_TO_PPM[int(row['scale_difference_uom_code'])]
-        parameters += [(X_ROTATION, float(Decimal(row['rx'])) * to_arcsec),
-                       (Y_ROTATION, float(Decimal(row['ry'])) * to_arcsec),
-                       (Z_ROTATION, float(Decimal(row['rz'])) * to_arcsec),
-                       (SCALE_DIFFERENCE,
-                        float(Decimal(row['scale_difference'])) * to_ppm)]
+        parameters += [(X_ROTATION, converted(row['rx'], to_arcsec)),
+                       (Y_ROTATION, converted(row['ry'], to_arcsec)),
+                       (Z_ROTATION, converted(row['rz'], to_arcsec)),
+                       (SCALE_DIFFERENCE, converted(row['scale_difference'], to_ppm))]
     return method, parameters
 
 
@@ -903,14 +921,14 @@ def match_geogtran(tran, epsg, records, pairs, harn_grids):
 
 
 def current_record(code, records):
-    """The record that replaces a deprecated one: the same name, source
-    and target, not deprecated."""
+    """The record that replaces a deprecated one: EPSG's current record of
+    the same name and target (its source may be the re-issued CRS of the
+    same system, e.g. SAD69 4291 -> 4618)."""
     row = records[code]
     if row['deprecated'] != '1':
         return code
     same = [c for c, r in records.items()
             if r['name'] == row['name'] and r['deprecated'] != '1'
-            and r['source_crs_code'] == row['source_crs_code']
             and r['target_crs_code'] == row['target_crs_code']]
     return min(same) if same else code
 
@@ -1009,16 +1027,15 @@ def check_transformation_systems(tran, row, epsg, systems, report):
         if code in epsg_system_codes(named, epsg):
             continue
         if held is None:
-            report.add('geogtran', None, tran.name,
-                       '%s %d (%s), EPSG %d %s is not in the catalogue'
-                       % (end, named.code, named.name, code,
-                          epsg.geogcs[code]['name'] if code in epsg.geogcs else '?'),
-                       'system of the name kept')
+            tran.system_notes.append((
+                '%s %s, EPSG %d %s is not in the catalogue'
+                % (end, named.name, code,
+                   epsg.geogcs[code]['name'] if code in epsg.geogcs else '?'),
+                'system of the name kept'))
         elif held is not named:
-            report.add('geogtran', None, tran.name,
-                       'name gives %s %d, EPSG %d gives %d (%s)'
-                       % (end, named.code, tran.epsg, held.code, held.name),
-                       'EPSG system taken')
+            tran.system_notes.append((
+                'name gives %s %s, EPSG %d gives %s' % (end, named.name, tran.epsg, held.name),
+                'EPSG system taken'))
             setattr(tran, end, held)
 
 
@@ -1048,8 +1065,12 @@ def report_geogtran(epsg, trans, report):
     for tran in sorted(trans, key=lambda t: t.code):
         add = lambda what, why: report.add('geogtran', tran.code, tran.name, what, why)
         if tran.note is not None:
-            add('no row', tran.note)
+            add('no row (listed with the %s transformations)' % METHOD_NAMES[tran.group_method],
+                tran.note)
             continue
+        if tran.name in data.GEOGTRAN_EPSG:
+            add('EPSG name %s' % records[tran.epsg]['name'],
+                'matched by decision (named by region, grid or purpose)')
         if tran.name in data.GEOGTRAN_FIXED_CODES:
             add('EPSG code %d' % tran.epsg, 'the catalogue\'s code kept')
         elif tran.epsg is not None and tran.code != tran.epsg:
@@ -1067,6 +1088,10 @@ def report_geogtran(epsg, trans, report):
         if tran.epsg_method is not None:
             add('method %d, EPSG %d' % (tran.method, tran.epsg_method),
                 'equivalent method of the catalogue kept')
+        for what, why in tran.system_notes:
+            add(what, why)
+        if tran.values_from is not None and records[tran.values_from]['deprecated'] == '1':
+            add('EPSG marks %d deprecated' % tran.values_from, 'its values kept')
 
 
 def check_method_groups(trans):
