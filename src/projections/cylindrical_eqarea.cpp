@@ -47,6 +47,18 @@ bool polar_parallel(const double *params) {
     return tol_eq(std::fabs(params[kStandardParallel1Slot]), kHalfPi);
 }
 
+// The handed constants when they have the expected layout, else computed
+// from the standard parallel.
+EqualAreaCylinder cea_values(const double *ellipsoid, const double *params,
+                             const int *header, const double *constants) {
+    EqualAreaCylinder c;
+    if (!equal_area_from_constants(ellipsoid, header, constants, c)) {
+        const double phi1 = params[kStandardParallel1Slot];
+        c = equal_area_cylinder(ellipsoid, phi1, std::cos(phi1));
+    }
+    return c;
+}
+
 }  // namespace
 
 EqualAreaCylinder equal_area_cylinder(const double *ellipsoid, double phi1,
@@ -167,25 +179,17 @@ int cylindrical_eqarea_forward(const double *ellipsoid, const double *params,
         for (int i = 0; i < n; ++i) mark_failed(points + 2 * i);
         return 0;
     }
-    EqualAreaCylinder c;
-    if (!equal_area_from_constants(ellipsoid, header, constants, c)) {
-        const double phi1 = params[kStandardParallel1Slot];
-        c = equal_area_cylinder(ellipsoid, phi1, std::cos(phi1));
-    }
-    return equal_area_forward(c, ellipsoid, params[kCentralMeridianSlot],
-                              n, points);
+    return equal_area_forward(cea_values(ellipsoid, params, header, constants),
+                              ellipsoid, params[kCentralMeridianSlot], n,
+                              points);
 }
 
 int cylindrical_eqarea_inverse(const double *ellipsoid, const double *params,
                                int n, double *points, const int *header,
                                const double *constants) {
-    EqualAreaCylinder c;
-    if (!equal_area_from_constants(ellipsoid, header, constants, c)) {
-        const double phi1 = params[kStandardParallel1Slot];
-        c = equal_area_cylinder(ellipsoid, phi1, std::cos(phi1));
-    }
-    return equal_area_inverse(c, ellipsoid, params[kCentralMeridianSlot],
-                              n, points);
+    return equal_area_inverse(cea_values(ellipsoid, params, header, constants),
+                              ellipsoid, params[kCentralMeridianSlot], n,
+                              points);
 }
 
 }  // namespace veltra
