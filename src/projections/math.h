@@ -125,23 +125,32 @@ inline SinCos double_angle(SinCos x) {
 }
 
 // Sine and cosine of x + d from those of x, where d is the small
-// correction of a latitude series: Taylor terms of sin d to d^5 and of
-// cos d to d^6 (errors below 2e-18 and 3e-21 for |d| < 0.01; the
-// corrections of terrestrial ellipsoids stay below 0.004), the library
-// functions beyond.  The factorials are applied as reciprocal products: a
-// division costs as much as the whole polynomial.
-inline SinCos add_small_angle(SinCos x, double d) {
-    constexpr double kTaylorLimit = 0.01;
-    double sd, cd;
-    if (std::fabs(d) < kTaylorLimit) {
-        const double d2 = d * d;
-        sd = d * (1 - d2 * (1.0 / 6) * (1 - d2 * (1.0 / 20)));
-        cd = 1 - d2 * 0.5 * (1 - d2 * (1.0 / 12) * (1 - d2 * (1.0 / 30)));
-    } else {
-        sd = std::sin(d);
-        cd = std::cos(d);
-    }
+// correction of a latitude series (|d| < kSmallAngle): Taylor terms of
+// sin d to d^5 and of cos d to d^6, errors below 2e-18 and 3e-21.  The
+// factorials are applied as reciprocal products: a division costs as much
+// as the whole polynomial.  Branch-free, so loops over it vectorise.
+inline constexpr double kSmallAngle = 0.01;
+
+inline SinCos rotate_by_small_angle(SinCos x, double d) {
+    const double d2 = d * d;
+    const double sd = d * (1 - d2 * (1.0 / 6) * (1 - d2 * (1.0 / 20)));
+    const double cd =
+        1 - d2 * 0.5 * (1 - d2 * (1.0 / 12) * (1 - d2 * (1.0 / 30)));
     return {x.s * cd + x.c * sd, x.c * cd - x.s * sd};
+}
+
+// The same for any d: the library functions beyond kSmallAngle (the
+// corrections of terrestrial ellipsoids stay below 0.004).
+inline SinCos add_small_angle(SinCos x, double d) {
+    if (std::fabs(d) < kSmallAngle) return rotate_by_small_angle(x, d);
+    const double sd = std::sin(d), cd = std::cos(d);
+    return {x.s * cd + x.c * sd, x.c * cd - x.s * sd};
+}
+
+// The largest value the sine series can take: a bound on its correction.
+inline double series_bound(const SineSeries &k) {
+    return std::fabs(k.c2) + std::fabs(k.c4) + std::fabs(k.c6) +
+           std::fabs(k.c8);
 }
 
 // Series from geodetic to conformal latitude (to e^8), from conformal back

@@ -38,8 +38,9 @@ Mercator mercator_values(const double *ellipsoid, const double *params,
 
 // The isometric latitude psi = ln tan(pi/4 + chi/2) is odd in chi and is
 // computed as copysign(ln A, chi) from the argument A >= 1 below.  The
-// forward loop first stores the signed A of a block of points and then
-// takes the logarithms, so no division waits in front of each logarithm.
+// forward loop works on blocks of points in three passes: the sines and
+// cosines of the latitudes, the signed arguments (plain arithmetic, which
+// vectorises), then the logarithms.
 constexpr int kBlock = 64;
 
 // At the (clamped) poles A = tan(pi/4 + |chi|/2), the form whose value
@@ -74,24 +75,48 @@ int mercator_forward(const double *ellipsoid, const double *params, int n,
                      const double *constants) {
     const Mercator m = mercator_values(ellipsoid, params, header, constants);
     const double lambda0 = params[kCentralMeridianSlot];
-    const bool ellipsoidal = is_ellipsoid(ellipsoid);
-    const SineSeries to_chi = phi_to_chi_series(ellipsoid[1]);
+    // chi - phi by the conformal series; none on a sphere.
+    const SineSeries to_chi = is_ellipsoid(ellipsoid)
+                                  ? phi_to_chi_series(ellipsoid[1])
+                                  : SineSeries{};
+    const bool small_shift = series_bound(to_chi) < kSmallAngle;
+    auto shift = [&to_chi](SinCos phi) {
+        const SinCos twice = double_angle(phi);
+        return sine_series_2x(twice.s, twice.c, to_chi);
+    };
+    double phi[kBlock], sin_phi[kBlock], cos_phi[kBlock];
     for (int first = 0; first < n; first += kBlock) {
-        const int last = std::min(n, first + kBlock);
-        for (int i = first; i < last; ++i) {
-            double *p = points + 2 * i;
-            const double phi = clamp_pole(p[1]);
-            const SinCos sc_phi{std::sin(phi), std::cos(phi)};
-            const SinCos twice = double_angle(sc_phi);
-            // chi - phi by the conformal series.
-            const double d =
-                ellipsoidal ? sine_series_2x(twice.s, twice.c, to_chi) : 0.0;
+        const int count = std::min(n - first, kBlock);
+        double *block = points + 2 * first;
+        bool any_pole = false;
+        for (int i = 0; i < count; ++i) {
+            double *p = block + 2 * i;
             p[0] = m.am1 * fold_longitude(p[0] - lambda0);
-            p[1] = is_pole(phi) ? signed_argument_at_pole(phi + d)
-                                : signed_argument(add_small_angle(sc_phi, d));
+            phi[i] = clamp_pole(p[1]);
+            any_pole |= is_pole(phi[i]);
+            sin_phi[i] = std::sin(phi[i]);
+            cos_phi[i] = std::cos(phi[i]);
         }
-        for (int i = first; i < last; ++i) {
-            double &y = points[2 * i + 1];
+        if (small_shift) {
+            for (int i = 0; i < count; ++i) {
+                const SinCos sc{sin_phi[i], cos_phi[i]};
+                block[2 * i + 1] =
+                    signed_argument(rotate_by_small_angle(sc, shift(sc)));
+            }
+        } else {
+            for (int i = 0; i < count; ++i) {
+                const SinCos sc{sin_phi[i], cos_phi[i]};
+                block[2 * i + 1] =
+                    signed_argument(add_small_angle(sc, shift(sc)));
+            }
+        }
+        if (any_pole)
+            for (int i = 0; i < count; ++i)
+                if (is_pole(phi[i]))
+                    block[2 * i + 1] = signed_argument_at_pole(
+                        phi[i] + shift({sin_phi[i], cos_phi[i]}));
+        for (int i = 0; i < count; ++i) {
+            double &y = block[2 * i + 1];
             y = std::copysign(m.am1 * std::log(std::fabs(y)), y);
         }
     }
