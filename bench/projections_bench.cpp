@@ -38,6 +38,8 @@ constexpr double kWgs84F = 1 / 298.257223563;
 constexpr Region kZone = {-78, -72, -80, 84};
 constexpr Region kWorld = {-180, 180, -85, 85};
 
+// Gauss_Kruger runs the same routines as Transverse_Mercator; it is set
+// beside PROJ's series algorithm (+approx) rather than its exact default.
 const Case kCases[] = {
     {"Transverse_Mercator", "Transverse_Mercator", kWgs84F, -75, 0, 0.9996,
      kZone, "+proj=tmerc +ellps=WGS84 +lon_0=-75 +k=0.9996"},
