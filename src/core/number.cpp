@@ -57,7 +57,8 @@ Text print(double value, std::chars_format format, int precision, int width) {
         std::memcpy(raw, wide.buf, wide.length + 1);
         length = wide.length;
     }
-    int pad = std::max(0, width - length);
+    int pad = std::clamp(width - length, 0,
+                         static_cast<int>(sizeof t.buf) - 1 - length);
     std::memset(t.buf, ' ', pad);
     std::memcpy(t.buf + pad, raw, length + 1);
     t.length = pad + length;
@@ -120,10 +121,18 @@ extern "C" KA_API void ka_format_number(double value, char *text, int digits) {
         }
 
         if (exponent < 0) {
-            int decimals = significant - exponent - 1;
-            out = print(value, std::chars_format::fixed, decimals, decimals + 3);
-            trim_zeros(out);
-            if (out.length > kFixedLimit || exponent < kSmallExponent)
+            // Below 1e-9 the general form is taken whatever the fixed text
+            // would be, so that text (hundreds of digits for 1e-300) is
+            // never printed.
+            bool general = exponent < kSmallExponent;
+            if (!general) {
+                int decimals = significant - exponent - 1;
+                out = print(value, std::chars_format::fixed, decimals,
+                            decimals + 3);
+                trim_zeros(out);
+                general = out.length > kFixedLimit;
+            }
+            if (general)
                 out = print(value, std::chars_format::general, significant - 1,
                             significant + 7);
         } else {
