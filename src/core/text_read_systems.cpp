@@ -84,23 +84,23 @@ KA_API ka_projcs *ka_projcs_from_string(const char *text) {
     return projcs;
 }
 
-// The two systems are the first and second counted GEOGCS, the method the
-// first counted METHOD, each read from its own position: two systems with
-// long names can push the method past the 1023 characters of the top-level
-// view.
+// The two systems are the first and second counted GEOGCS, each read from
+// its own position; the method comes from the whole text.  (A written
+// GEOGTRAN always has its method inside the first 1023 characters: even
+// with every name and number at its longest, the method's name ends at
+// character 1022.)
 KA_API ka_geogtran *ka_geogtran_from_string(const char *text) {
     Keyword k;
     if (!find_keyword(text, "GEOGTRAN", 1, k)) return nullptr;
     GeogtranParts parts;
     const char *first = nth_occurrence(text, "GEOGCS", 1);
     const char *second = first ? next_occurrence(first + 1, "GEOGCS") : nullptr;
-    const char *method = nth_occurrence(text, "METHOD", 1);
-    if (second == nullptr || method == nullptr) return nullptr;
+    if (second == nullptr) return nullptr;
     parts.geogcs1 = ka_geogcs_from_string(first);
     if (parts.geogcs1 == nullptr) return nullptr;
     parts.geogcs2 = ka_geogcs_from_string(second);
     if (parts.geogcs2 == nullptr) return nullptr;
-    parts.method = ka_method_from_string(method);
+    parts.method = ka_method_from_string(text);
     if (parts.method == nullptr) return nullptr;
     if (!read_parameter_slots(text, parts.slots)) return nullptr;
 
