@@ -43,20 +43,34 @@ inline bool is_keyword(const std::string &word) {
 // that keyword by the flat token scan; an infinite or NaN value is not
 // equal to itself; a value of magnitude 1e16 or more is written with six
 // decimals only ("e+" appears nowhere else in a written text).
+// Known limits of the text form, where a written text reads back as a
+// different object, or not at all, by design: a name spelt like a keyword
+// is taken for that keyword by the flat token scan; an infinite or NaN
+// value is not equal to itself; a value of magnitude 1e16 or more is
+// written with six decimals only ("e+" appears nowhere else in a written
+// text); and a flattening within 1e-15 of 1 writes its inverse as "1.0",
+// a flattening of 1, which no spheroid may have.
 inline bool carries_values(const char *text) {
     // A written text alternates keywords, quoted names and numbers, with
     // no blanks.
-    std::string word;
+    std::string word, keyword;
+    int numbers = 0;  // since the last keyword
     bool quoted = false;
     for (const char *p = text;; ++p) {
         const char c = *p;
         if (c == '"' || (!quoted && (c == '[' || c == ']' || c == ',')) ||
             c == '\0') {
             if (quoted && is_keyword(word)) return false;
-            if (!quoted && !word.empty() && !is_keyword(word) &&
-                (word.find_first_of("ni") != std::string::npos ||
-                 word.find("e+") != std::string::npos))
-                return false;  // nan, inf or a value of 1e16 or more
+            if (!quoted && is_keyword(word)) {
+                keyword = word;
+                numbers = 0;
+            } else if (!quoted && !word.empty()) {
+                if (word.find_first_of("ni") != std::string::npos ||
+                    word.find("e+") != std::string::npos)
+                    return false;  // nan, inf or a value of 1e16 or more
+                if (++numbers == 2 && keyword == "SPHEROID" && word == "1.0")
+                    return false;
+            }
             word.clear();
             if (c == '"') quoted = !quoted;
             if (c == '\0') return true;
