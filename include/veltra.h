@@ -354,6 +354,13 @@ KA_API int ka_geog_to_proj(const ka_projcs *projcs, int n, double *coords);
 /* The inverse of ka_geog_to_proj. */
 KA_API int ka_proj_to_geog(const ka_projcs *projcs, int n, double *coords);
 
+/* Half-width in degrees of the transverse Mercator horizon (also used by
+ * Cassini): the band about the central meridian in which the
+ * forward-inverse round trip of the series stays within 1 mm at every
+ * latitude (measured on WGS 84 with scale factor 0.9996: up to 6.42
+ * degrees, worst near latitude 59), rounded down. */
+#define KA_TM_HORIZON_HALF_WIDTH_DEG 6.0
+
 /* Horizon of a projected system in its geographic unit; free with
  * ka_horizon_del.  NULL when memory runs out. */
 KA_API ka_horizon *ka_generate_horizon(const ka_projcs *projcs);

@@ -15,6 +15,7 @@ constexpr int kWrapAtZero = 1;
 constexpr int kWrapSpanning = 3;
 // Mercator stops one degree short of each pole.
 constexpr double kMercatorLimit = kPi / 2 - kPi / 180;
+constexpr double kTmHalfWidth = KA_TM_HORIZON_HALF_WIDTH_DEG * kPi / 180;
 
 }  // namespace
 
@@ -74,6 +75,14 @@ ka_horizon *mercator_horizon(const double *, const double *params) {
     int wrap;
     world_longitudes(params[kCentralMeridian], west, east, wrap);
     return horizon_rectangle(west, -kMercatorLimit, east, kMercatorLimit, wrap);
+}
+
+ka_horizon *transverse_mercator_horizon(const double *,
+                                        const double *params) {
+    const double cm = ka_delta(params[kCentralMeridian]);
+    if (std::isnan(cm)) return horizon_rectangle(0, -kPi / 2, 0, kPi / 2, 0);
+    return horizon_rectangle(cm - kTmHalfWidth, -kPi / 2, cm + kTmHalfWidth,
+                             kPi / 2, kWrapSpanning);
 }
 
 }  // namespace veltra

@@ -24,4 +24,11 @@ ka_horizon *default_horizon(const double *ellipsoid, const double *params);
 // Mercator: the world rectangle from 89 degrees south to 89 degrees north.
 ka_horizon *mercator_horizon(const double *ellipsoid, const double *params);
 
+// Transverse Mercator (and Cassini): every latitude, and the longitudes
+// within KA_TM_HORIZON_HALF_WIDTH_DEG of the central meridian, where the
+// series round trip stays within a millimetre.  Wrap code 3; 0 for a NaN
+// central meridian.
+ka_horizon *transverse_mercator_horizon(const double *ellipsoid,
+                                        const double *params);
+
 }  // namespace veltra

@@ -21,14 +21,6 @@ double third_flattening(double e2) {
     return (1 - root) / (1 + root);
 }
 
-// sum of c2 sin 2x + c4 sin 4x + c6 sin 6x + c8 sin 8x from one sine and one
-// cosine of 2x (Clenshaw-style cubic in cos 2x).
-double sine_series(double x, double c2, double c4, double c6, double c8) {
-    double s = std::sin(2 * x);
-    double c = std::cos(2 * x);
-    return s * (((8 * c8 * c + 4 * c6) * c + (2 * c4 - 4 * c8)) * c + (c2 - c6));
-}
-
 // Runs f on |x| and gives the result the sign of x.
 template <class F>
 double odd(double x, F f) {
@@ -103,6 +95,40 @@ double brent_root(const double *params, BrentFn f) {
     }
 }
 
+SineSeries phi_to_chi_series(double e2) {
+    double e4 = e2 * e2, e6 = e4 * e2, e8 = e6 * e2;
+    return {-(e2 / 2 + 5 * e4 / 24 + 3 * e6 / 32 + 281 * e8 / 5760),
+            5 * e4 / 48 + 7 * e6 / 80 + 697 * e8 / 11520,
+            -(13 * e6 / 480 + 461 * e8 / 13440),
+            1237 * e8 / 161280};
+}
+
+SineSeries chi_to_phi_series(double e2) {
+    double e4 = e2 * e2, e6 = e4 * e2, e8 = e6 * e2;
+    return {e2 / 2 + 5 * e4 / 24 + e6 / 12 + 13 * e8 / 360,
+            7 * e4 / 48 + 29 * e6 / 240 + 811 * e8 / 11520,
+            7 * e6 / 120 + 81 * e8 / 1120,
+            4279 * e8 / 161280};
+}
+
+SineSeries mu_to_phi_series(double e2) {
+    double e1 = third_flattening(e2);
+    double e1_2 = e1 * e1, e1_3 = e1_2 * e1, e1_4 = e1_3 * e1;
+    return {3 * e1 / 2 - 27 * e1_3 / 32,
+            21 * e1_2 / 16 - 55 * e1_4 / 32,
+            151 * e1_3 / 96,
+            1097 * e1_4 / 512};
+}
+
+MeridianArc meridian_arc(double a, double e2) {
+    double n = third_flattening(e2);
+    double n2 = n * n, n3 = n2 * n, n4 = n3 * n;
+    return {a / (1 + n),
+            1 + n2 / 4 + n4 / 64,
+            {-1.5 * (n - n3 / 8), 15.0 / 16 * (n2 - n4 / 4), -35.0 / 48 * n3,
+             315.0 / 512 * n4}};
+}
+
 }  // namespace veltra
 
 extern "C" {
@@ -131,21 +157,11 @@ KA_API double ka_n(double a, double e2, double phi) {
 
 // Conformal latitude by its series in e2 to e8.
 KA_API double ka_phi_to_chi(double e2, double phi) {
-    double e4 = e2 * e2, e6 = e4 * e2, e8 = e6 * e2;
-    double a2 = -(e2 / 2 + 5 * e4 / 24 + 3 * e6 / 32 + 281 * e8 / 5760);
-    double a4 = 5 * e4 / 48 + 7 * e6 / 80 + 697 * e8 / 11520;
-    double a6 = -(13 * e6 / 480 + 461 * e8 / 13440);
-    double a8 = 1237 * e8 / 161280;
-    return phi + sine_series(phi, a2, a4, a6, a8);
+    return phi + veltra::sine_series(phi, veltra::phi_to_chi_series(e2));
 }
 
 KA_API double ka_chi_to_phi(double e2, double chi) {
-    double e4 = e2 * e2, e6 = e4 * e2, e8 = e6 * e2;
-    double b2 = e2 / 2 + 5 * e4 / 24 + e6 / 12 + 13 * e8 / 360;
-    double b4 = 7 * e4 / 48 + 29 * e6 / 240 + 811 * e8 / 11520;
-    double b6 = 7 * e6 / 120 + 81 * e8 / 1120;
-    double b8 = 4279 * e8 / 161280;
-    return chi + sine_series(chi, b2, b4, b6, b8);
+    return chi + veltra::sine_series(chi, veltra::chi_to_phi_series(e2));
 }
 
 // Authalic latitude by its series in e2 to e6, coefficients by Horner.
@@ -184,13 +200,7 @@ KA_API double ka_phi_to_mu(double e2, double phi) {
 }
 
 KA_API double ka_mu_to_phi(double e2, double mu) {
-    double e1 = third_flattening(e2);
-    double e1_2 = e1 * e1, e1_3 = e1_2 * e1, e1_4 = e1_3 * e1;
-    double c2 = 3 * e1 / 2 - 27 * e1_3 / 32;
-    double c4 = 21 * e1_2 / 16 - 55 * e1_4 / 32;
-    double c6 = 151 * e1_3 / 96;
-    double c8 = 1097 * e1_4 / 512;
-    return mu + sine_series(mu, c2, c4, c6, c8);
+    return mu + veltra::sine_series(mu, veltra::mu_to_phi_series(e2));
 }
 
 KA_API double ka_phi_to_eta(double e2, double phi) {
@@ -203,14 +213,7 @@ KA_API double ka_eta_to_phi(double e2, double eta) {
 
 // Meridian arc by Helmert's series in the third flattening.
 KA_API double ka_q(double a, double e2, double phi) {
-    double n = third_flattening(e2);
-    double n2 = n * n, n3 = n2 * n, n4 = n3 * n;
-    double c0 = 1 + n2 / 4 + n4 / 64;
-    double c2 = -1.5 * (n - n3 / 8);
-    double c4 = 15.0 / 16 * (n2 - n4 / 4);
-    double c6 = -35.0 / 48 * n3;
-    double c8 = 315.0 / 512 * n4;
-    return a / (1 + n) * (c0 * phi + sine_series(phi, c2, c4, c6, c8));
+    return veltra::meridian_arc_length(veltra::meridian_arc(a, e2), phi);
 }
 
 KA_API double ka_q90(double a, double e2) {

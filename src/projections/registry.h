@@ -11,4 +11,8 @@ namespace veltra {
 // for a row whose routines this build does not have.
 ka_projection *registry_projection(const char *name);
 
+// Name of the projection with catalogue code `code` (43001..43051), or ""
+// for a code that names none.
+const char *projection_code_name(int code);
+
 }  // namespace veltra
