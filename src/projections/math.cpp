@@ -142,17 +142,15 @@ KA_API double ka_delta(double lambda) {
 KA_API int ka_eq(double x, double y) { return veltra::tol_eq(x, y); }
 
 KA_API double ka_w(double e2, double phi) {
-    double s = std::sin(phi);
-    return std::sqrt(1 - e2 * s * s);
+    return veltra::radii(1, e2, std::sin(phi)).w;
 }
 
 KA_API double ka_m(double a, double e2, double phi) {
-    double w = ka_w(e2, phi);
-    return a * (1 - e2) / (w * w * w);
+    return veltra::radii(a, e2, std::sin(phi)).m;
 }
 
 KA_API double ka_n(double a, double e2, double phi) {
-    return a / ka_w(e2, phi);
+    return veltra::radii(a, e2, std::sin(phi)).n;
 }
 
 // Conformal latitude by its series in e2 to e8.
@@ -235,36 +233,20 @@ KA_API double ka_auth_r(double a, double e2) {
 
 KA_API void ka_curv_to_cart(double a, double e2, double phi, double lambda,
                             double h, double *x, double *y, double *z) {
-    double n = ka_n(a, e2, phi);
-    double cos_phi = std::cos(phi);
-    if (x != nullptr) *x = (n + h) * cos_phi * std::cos(lambda);
-    if (y != nullptr) *y = (n + h) * cos_phi * std::sin(lambda);
-    if (z != nullptr) *z = ((1 - e2) * n + h) * std::sin(phi);
+    double cx, cy, cz;
+    veltra::Geocentric(a, e2).to_cartesian(phi, lambda, h, cx, cy, cz);
+    if (x != nullptr) *x = cx;
+    if (y != nullptr) *y = cy;
+    if (z != nullptr) *z = cz;
 }
 
-// Bowring's method carried through exactly two latitude evaluations; the
-// height is measured from the ellipse point of the first evaluation's
-// reduced latitude.
 KA_API void ka_cart_to_curv(double a, double e2, double x, double y, double z,
                             double *phi, double *lambda, double *h) {
-    double b = a * std::sqrt(1 - e2);
-    double ep2 = e2 / (1 - e2);
-    double p = std::sqrt(x * x + y * y);
-
-    double theta = std::atan2(a * z, b * p);
-    double st = std::sin(theta), ct = std::cos(theta);
-    double phi1 = std::atan2(z + ep2 * b * st * st * st, p - a * e2 * ct * ct * ct);
-    double u = std::atan(std::tan(phi1) * std::sqrt(1 - e2));
-    double su = std::sin(u), cu = std::cos(u);
-
-    if (phi != nullptr)
-        *phi = std::atan2(z + ep2 * b * su * su * su, p - a * e2 * cu * cu * cu);
-    if (lambda != nullptr) *lambda = veltra::tol_eq(p, 0) ? 0 : std::atan2(y, x);
-    if (h != nullptr) {
-        double dz = z - b * su, dp = p - a * cu;
-        double height = std::sqrt(dz * dz + dp * dp);
-        *h = dp < 0 ? -height : height;
-    }
+    double cphi, clambda, ch;
+    veltra::Geocentric(a, e2).to_geodetic(x, y, z, cphi, clambda, ch);
+    if (phi != nullptr) *phi = cphi;
+    if (lambda != nullptr) *lambda = clambda;
+    if (h != nullptr) *h = ch;
 }
 
 }  // extern "C"
