@@ -195,12 +195,16 @@ void append_number(std::string &out, double value, const OutputFormat &format) {
         return;
     }
     if (value == 0) value = 0;  // no "-0"
-    char text[64];
+    // Fixed notation always ("500000", never "5e+05"); the shortest form
+    // that reads back exactly unless decimals are asked for.  The largest
+    // double needs 309 digits.
+    char text[512];
     auto [end, ec] =
         format.decimals >= 0
             ? std::to_chars(text, text + sizeof text, value,
                             std::chars_format::fixed, format.decimals)
-            : std::to_chars(text, text + sizeof text, value);
+            : std::to_chars(text, text + sizeof text, value,
+                            std::chars_format::fixed);
     if (ec != std::errc{}) {
         out += "nan";
         return;

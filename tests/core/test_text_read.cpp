@@ -243,9 +243,9 @@ const std::string kWgs72Text =
 
 TEST(TextRead, GeogtranSystemsMethodAndParameters) {
     const std::string text =
-        "GEOGTRAN[\"NAD_1927_To_NAD_1983_NTv2\"," + kWgs72Text + "," +
-        kWgs84Text +
-        ",METHOD[\"NTv2\"],PARAMETER[\"Dataset_ntv2_0\",0.0]]";
+        "GEOGTRAN[\"WGS_1972_To_WGS_1984\"," + kWgs72Text + "," + kWgs84Text +
+        ",METHOD[\"Geocentric_Translation\"],PARAMETER[\"Dataset_any\",0.0],"
+        "PARAMETER[\"Z_Axis_Translation\",4.5]]";
     ka_geogtran *gt = ka_geogtran_from_string(text.c_str());
     ASSERT_NE(gt, nullptr);
     char name[KA_NAME_MAX];
@@ -254,19 +254,20 @@ TEST(TextRead, GeogtranSystemsMethodAndParameters) {
     ka_geogcs_name(ka_geogtran_geogcs2(gt), name);
     EXPECT_STREQ(name, "GCS_WGS_1984");
     ka_method_name(ka_geogtran_method(gt), name);
-    EXPECT_STREQ(name, "NTv2");
+    EXPECT_STREQ(name, "Geocentric_Translation");
     ka_parameter *slots[KA_PARAMETER_SLOTS];
     ka_geogtran_parameters(gt, slots);
     ASSERT_NE(slots[15], nullptr);
     ka_parameter_name(slots[15], name);
-    EXPECT_STREQ(name, "Dataset_ntv2_0");
+    EXPECT_STREQ(name, "Dataset_any");
+    EXPECT_EQ(ka_parameter_value(slots[2]), 4.5);
     ka_geogtran_del(gt);
 }
 
 TEST(TextRead, GeogtranFailuresDeleteWhatWasRead) {
     const std::string two = kWgs72Text + "," + kWgs84Text;
     EXPECT_EQ(ka_geogtran_from_string(
-                  ("GEOGTRAN[\"t\"," + kWgs84Text + ",METHOD[\"NTv2\"]]").c_str()),
+                  ("GEOGTRAN[\"t\"," + kWgs84Text + ",METHOD[\"Molodensky\"]]").c_str()),
               nullptr);
     EXPECT_EQ(ka_geogtran_from_string(
                   ("GEOGTRAN[\"t\"," + two + ",METHOD[\"Teleport\"]]").c_str()),
@@ -274,7 +275,7 @@ TEST(TextRead, GeogtranFailuresDeleteWhatWasRead) {
     EXPECT_EQ(ka_geogtran_from_string(("GEOGTRAN[\"t\"," + two + "]").c_str()),
               nullptr);
     EXPECT_EQ(ka_geogtran_from_string(
-                  ("GEOGTRAN[\"t\"," + two + ",METHOD[\"NTv2\"],PARAMETER[\"x\"]")
+                  ("GEOGTRAN[\"t\"," + two + ",METHOD[\"Molodensky\"],PARAMETER[\"x\"]")
                       .c_str()),
               nullptr);
 }
@@ -289,10 +290,10 @@ TEST(TextRead, KnownNamesKeepTheTextsSpelling) {
     ka_projection_del(projection);
     EXPECT_EQ(ka_projection_from_string("PROJECTION[\"Flat_Earth\"]"), nullptr);
 
-    ka_method *method = ka_method_from_string("METHOD[\"ntv2\"]");
+    ka_method *method = ka_method_from_string("METHOD[\"position_VECTOR\"]");
     ASSERT_NE(method, nullptr);
     ka_method_name(method, name);
-    EXPECT_STREQ(name, "ntv2");
+    EXPECT_STREQ(name, "position_VECTOR");
     ka_method_del(method);
     EXPECT_EQ(ka_method_from_string("METHOD[\"Teleport\"]"), nullptr);
 }
