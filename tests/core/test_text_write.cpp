@@ -179,24 +179,26 @@ TEST(TextWrite, NullBufferIsIgnored) {
 }
 
 // Every name at its 63-character maximum and every number at its longest
-// written form: the texts must still fit KA_TEXT_MAX, whole.
+// written form (24 characters for -0.000001234567890123456, the fixed form
+// taking up to 24 before the general form takes over): the texts must still
+// fit KA_TEXT_MAX, whole.
 std::string long_name(char fill) { return std::string(63, fill); }
+constexpr double kLongest = -0.000001234567890123456;
 
 ka_geogcs *long_geogcs(char fill) {
     const std::string name = long_name(fill);
     return ka_geogcs_new(
         name.c_str(),
-        ka_datum_new(name.c_str(), ka_spheroid_new(name.c_str(),
-                                                   1.2345678901234567e-300,
+        ka_datum_new(name.c_str(), ka_spheroid_new(name.c_str(), -kLongest,
                                                    1 / 123456789012345.67)),
-        ka_primem_new(name.c_str(), -1.2345678901234567e-100),
-        ka_unit_new(name.c_str(), 1.2345678901234567e-300));
+        ka_primem_new(name.c_str(), kLongest),
+        ka_unit_new(name.c_str(), -kLongest));
 }
 
 void fill_long_parameters(ka_parameter **slots) {
     for (int i = 0; i < KA_PARAMETER_SLOTS; ++i)
         slots[i] = ka_parameter_new(long_name(static_cast<char>('a' + i)).c_str(),
-                                    -1.2345678901234567e-300);
+                                    kLongest);
 }
 
 TEST(TextWrite, LongestTextsStayWithinTheBufferSize) {
@@ -209,13 +211,18 @@ TEST(TextWrite, LongestTextsStayWithinTheBufferSize) {
         long_name('p').c_str(), long_geogcs('g'),
         ka_projection_new(long_name('r').c_str(), no_projection, no_projection,
                           nullptr),
-        slots, ka_unit_new(long_name('u').c_str(), 1.2345678901234567e-300));
+        slots, ka_unit_new(long_name('u').c_str(), -kLongest));
     ASSERT_NE(pcs, nullptr);
     std::string written = ka_projcs_to_string(pcs, text);
+    // UNIT 6+63+2+23+1 = 95, SPHEROID 10+63+2+23+1+17+1 = 117, DATUM
+    // 7+63+2+117+1 = 190, PRIMEM 8+63+2+24+1 = 98, GEOGCS
+    // 8+63+2+190+1+98+1+95+1 = 459, PROJECTION 12+63+2 = 77, PARAMETER
+    // 11+63+2+24+1 = 101; PROJCS 8+63+2+459+1+77+16*(1+101)+1+95+1.
+    EXPECT_EQ(written.size(), 2339u);
     EXPECT_LT(written.size(), static_cast<std::size_t>(KA_TEXT_MAX));
     EXPECT_EQ(written.substr(written.size() - 2), "]]");
     EXPECT_NE(written.find("PARAMETER[\"" + long_name('a' + 15) +
-                           "\",-1.23456789012346e-300]"),
+                           "\",-0.000001234567890123456]"),
               std::string::npos);
     ka_projcs_del(pcs);
 
@@ -225,6 +232,8 @@ TEST(TextWrite, LongestTextsStayWithinTheBufferSize) {
         ka_method_new(long_name('m').c_str(), no_method, no_method), slots);
     ASSERT_NE(gt, nullptr);
     written = ka_geogtran_to_string(gt, text);
+    // METHOD 8+63+2 = 73; GEOGTRAN 10+63+2+459+1+459+1+73+16*(1+101)+1.
+    EXPECT_EQ(written.size(), 2701u);
     EXPECT_LT(written.size(), static_cast<std::size_t>(KA_TEXT_MAX));
     EXPECT_EQ(written.substr(written.size() - 2), "]]");
     ka_geogtran_del(gt);
