@@ -5,6 +5,7 @@
 
 #include "args.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
@@ -22,6 +23,8 @@ constexpr int kBatchPoints = 4096;
 // pile up or their text grows large.
 constexpr std::size_t kBatchRecords = 4 * kBatchPoints;
 constexpr std::size_t kBatchText = 1 << 20;
+// The most numbers a job reads per line.
+constexpr int kMaxInputs = 8;
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
@@ -130,14 +133,15 @@ public:
 private:
     bool add_point(const char *begin, const char *end) {
         LineParser parser(begin, end);
-        double value[8];
-        for (int i = 0; i < job_.inputs; ++i)
+        double value[kMaxInputs];
+        for (int i = 0; i < job_.inputs && i < kMaxInputs; ++i)
             if (!parser.number(value[i])) return false;
         Record r{Record::kPoint};
         double extra = 0;
         if (job_.optional_extra && parser.number(extra)) r.has_extra = true;
         r.separator = parser.saw_comma() ? ',' : ' ';
-        values_.insert(values_.end(), value, value + job_.inputs);
+        values_.insert(values_.end(), value,
+                       value + std::min(job_.inputs, kMaxInputs));
         extra_.push_back(extra);
         r.text_begin = text_.size();
         text_.append(parser.position(), end);
