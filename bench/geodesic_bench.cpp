@@ -125,4 +125,3 @@ BENCHMARK(BM_GeographicLib_Inverse)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();

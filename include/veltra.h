@@ -520,14 +520,33 @@ KA_API void ka_cart_to_curv(double a, double e2, double x, double y, double z,
  * ------------------------------------------------------------------------ */
 
 /* Direct problem: the point reached from (lon1, lat1) after distance along
- * azimuth (clockwise from north).  Either output may be NULL. */
+ * azimuth (clockwise from north).  Either output may be NULL.  Vincenty's
+ * iteration on a spheroid, great-circle formulas when e2 < 2^-48; a start
+ * at a pole is taken on the meridian of longitude 0.  The longitude is
+ * returned in [-pi, pi].  NaN outputs when an input is not finite or the
+ * iteration does not settle (flattening far beyond any planet's). */
 KA_API void ka_geodesic_coordinate(double a, double e2, double lon1,
                                    double lat1, double distance,
                                    double azimuth, double *lon2,
                                    double *lat2);
-/* Inverse problem: the geodesic distance between two points, the azimuth at
- * the first point towards the second and the azimuth at the second point
- * towards the first.  Any output may be NULL. */
+/* Inverse problem: the length of the shortest geodesic between two points,
+ * the azimuth at the first point towards the second (az12) and the azimuth
+ * at the second point towards the first (az21, the back azimuth: the
+ * forward azimuth on arrival plus pi).  Any output may be NULL.
+ * - Azimuths are clockwise from north, in (-pi, pi]; the distance is in the
+ *   unit of a.  On terrestrial spheroids the distance is good to 0.1
+ *   micrometre and the azimuths to 1e-12 rad wherever a rounding of the
+ *   inputs does not move them more (very short and nearly antipodal lines).
+ * - e2 < 2^-48 (including a prolate e2 < 0) uses the great-circle formulas.
+ * - Coincident points: distance 0, az12 = 0, az21 = pi (a path north).
+ * - A point at a pole (lat = +-pi/2) has its azimuth reckoned as at a point
+ *   a hair's breadth from the pole on the meridian of its given longitude.
+ * - When two shortest geodesics tie (points exactly antipodal, or two
+ *   points on the equator with a longitude difference near pi), the one
+ *   heading north from the first point is returned if the first point is
+ *   north of or on the equator, else the one heading south.
+ * - A latitude beyond +-pi/2, a non-finite longitude or e2 >= 1 gives NaN
+ *   in every output. */
 KA_API void ka_geodesic_distance(double a, double e2, double lon1,
                                  double lat1, double lon2, double lat2,
                                  double *distance, double *az12,

@@ -12,8 +12,10 @@ namespace veltra {
 
 namespace {
 
-bool is_delimiter(char c) {
-    return c == '[' || c == ']' || c == ',' || c == '"';
+constexpr char kTextDelimiters[] = "[],\"";
+
+bool is_delimiter(char c, const char *delimiters) {
+    return c != '\0' && std::strchr(delimiters, c) != nullptr;
 }
 
 bool has_content(const char *s) {
@@ -25,19 +27,23 @@ bool has_content(const char *s) {
 }  // namespace
 
 bool tokenize(const char *text, Tokens &out) {
+    return tokenize(text, kTextDelimiters, out);
+}
+
+bool tokenize(const char *text, const char *delimiters, Tokens &out) {
     out.count = 0;
     out.buffer[0] = '\0';
-    if (text == nullptr) return false;
+    if (text == nullptr || delimiters == nullptr) return false;
     std::size_t length = strnlen(text, Tokens::kBufferSize - 1);
     std::memcpy(out.buffer, text, length);
     out.buffer[length] = '\0';
 
     char *p = out.buffer;
     while (*p != '\0' && out.count < Tokens::kMaxTokens) {
-        while (*p != '\0' && is_delimiter(*p)) ++p;
+        while (*p != '\0' && is_delimiter(*p, delimiters)) ++p;
         if (*p == '\0') break;
         char *start = p;
-        while (*p != '\0' && !is_delimiter(*p)) ++p;
+        while (*p != '\0' && !is_delimiter(*p, delimiters)) ++p;
         if (*p != '\0') *p++ = '\0';
         if (has_content(start)) {
             ka_str_trim(start);

@@ -18,6 +18,10 @@ struct Tokens {
 // false (no tokens) for a NULL text.
 bool tokenize(const char *text, Tokens &out);
 
+// The same with another delimiter set (each character of `delimiters`
+// separates tokens).
+bool tokenize(const char *text, const char *delimiters, Tokens &out);
+
 // Index of the first token at or after `from` equal to keyword ignoring
 // case that leaves at least `needed` tokens after it, or -1.
 int find_keyword(const Tokens &tokens, const char *keyword, int needed,

@@ -25,9 +25,11 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 // Below this eccentricity squared the spheroid is treated as a sphere.
 constexpr double kSphereE2 = 0x1p-48;
 
-// Newton's method stops once its step in alpha1 is below this; the last
-// step is still applied, so the azimuth error is of the order of its
-// square, and the distance is corrected to first order in it.
+// Newton's method stops once both its step in alpha1 and the residual in
+// lambda12 are below this (the residual too, because near the cusp of the
+// antipodal region lambda12 is far from linear).  The last step is still
+// applied, so the azimuth error is of the order of its square, and the
+// distance is corrected to first order in it.
 constexpr double kStepTol = 0x1p-30;
 // Newton and bisection rounds together: bisection alone narrows the
 // bracket [0, pi] to a double's resolution well within this.
@@ -189,42 +191,34 @@ struct Problem {
 // The geodesic leaving point 1 with azimuth alpha1, followed to where it
 // first reaches the latitude of point 2 heading north.
 struct Arc {
-    double lam12;   // longitude difference reached
-    double dlam12;  // its derivative with respect to alpha1
+    double residual;  // longitude difference reached, less that of point 2
+    double dlam12;    // d lambda12 / d alpha1
     double salp2, calp2;
     double ssig1, csig1, ssig2, csig2, sig12;
     double eps;
-    double m12;     // reduced length (0 when not asked for)
-};
-
-// J(sigma2) - J(sigma1) with J = I1 - I2, and I1(sigma2) - I1(sigma1) over
-// b A1 (the series part only).
-struct Lengths {
-    double s12;  // distance
+    double s12;  // distance, b (I1(sigma2) - I1(sigma1))
     double m12;  // reduced length
 };
 
-Lengths lengths(const Spheroid &sp, const Arc &arc, bool want_m12) {
-    double c1[kOrder];
+// Distance and reduced length of the arc: with J = I1 - I2 and
+// dn = sqrt(1 + k2 sin^2 sigma),
+//   m12 = b (dn2 cos s1 sin s2 - dn1 sin s1 cos s2 - cos s1 cos s2 (J(s2) - J(s1))).
+void lengths(const Spheroid &sp, Arc &arc) {
+    double c1[kOrder], c2[kOrder];
     c1_of(arc.eps, c1);
-    double a1 = a1_of(arc.eps);
+    c2_of(arc.eps, c2);
+    double a1 = a1_of(arc.eps), a2 = a2_of(arc.eps);
     double i1_12 = arc.sig12 + sine_sum(c1, arc.ssig2, arc.csig2) -
                    sine_sum(c1, arc.ssig1, arc.csig1);
-    Lengths out{sp.b * a1 * i1_12, 0};
-    if (want_m12) {
-        double c2[kOrder];
-        c2_of(arc.eps, c2);
-        double a2 = a2_of(arc.eps);
-        double i2_12 = arc.sig12 + sine_sum(c2, arc.ssig2, arc.csig2) -
-                       sine_sum(c2, arc.ssig1, arc.csig1);
-        double j12 = a1 * i1_12 - a2 * i2_12;
-        double k2 = arc.eps * 4 / sq(1 - arc.eps);
-        double dn1 = std::sqrt(1 + k2 * sq(arc.ssig1));
-        double dn2 = std::sqrt(1 + k2 * sq(arc.ssig2));
-        out.m12 = sp.b * (dn2 * arc.csig1 * arc.ssig2 - dn1 * arc.ssig1 * arc.csig2 -
-                          arc.csig1 * arc.csig2 * j12);
-    }
-    return out;
+    double i2_12 = arc.sig12 + sine_sum(c2, arc.ssig2, arc.csig2) -
+                   sine_sum(c2, arc.ssig1, arc.csig1);
+    double j12 = a1 * i1_12 - a2 * i2_12;
+    double k2 = 4 * arc.eps / sq(1 - arc.eps);
+    double dn1 = std::sqrt(1 + k2 * sq(arc.ssig1));
+    double dn2 = std::sqrt(1 + k2 * sq(arc.ssig2));
+    arc.s12 = sp.b * a1 * i1_12;
+    arc.m12 = sp.b * (dn2 * arc.csig1 * arc.ssig2 - dn1 * arc.ssig1 * arc.csig2 -
+                      arc.csig1 * arc.csig2 * j12);
 }
 
 struct Heading {
@@ -249,8 +243,7 @@ Heading arrival(const Problem &p, double salp1, double calp1, double salp0) {
 }
 
 // Follows the geodesic from point 1 with azimuth (salp1, calp1), salp1 >= 0.
-Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1,
-           bool want_m12) {
+Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1) {
     Arc arc;
     // Clairaut: the azimuth alpha0 where the geodesic crosses the equator.
     double salp0 = salp1 * p.cbet1;
@@ -280,8 +273,13 @@ Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1,
     // sigma12 and omega12 lie in [0, pi]: clamp the rounding of their sines.
     arc.sig12 = std::atan2(std::max(0.0, arc.csig1 * arc.ssig2 - arc.ssig1 * arc.csig2),
                            arc.csig1 * arc.csig2 + arc.ssig1 * arc.ssig2);
-    double omg12 = std::atan2(std::max(0.0, comg1 * somg2 - somg1 * comg2),
-                              comg1 * comg2 + somg1 * somg2);
+    // omega12 less the longitude difference of point 2, as one small angle
+    // (its sine and cosine by the difference formulas) so that the residual
+    // keeps its relative precision as it vanishes.
+    double somg12 = std::max(0.0, comg1 * somg2 - somg1 * comg2);
+    double comg12 = comg1 * comg2 + somg1 * somg2;
+    double domg = std::atan2(somg12 * p.clam12 - comg12 * p.slam12,
+                             comg12 * p.clam12 + somg12 * p.slam12);
 
     // lambda12 = omega12 - f sin(alpha0) (I3(sigma2) - I3(sigma1)).
     arc.eps = sp.eps_of(sq(calp0));
@@ -289,19 +287,13 @@ Arc follow(const Spheroid &sp, const Problem &p, double salp1, double calp1,
     sp.c3_of(arc.eps, c3);
     double i3_12 = arc.sig12 + sine_sum(c3, arc.ssig2, arc.csig2) -
                    sine_sum(c3, arc.ssig1, arc.csig1);
-    arc.lam12 = omg12 - sp.f * salp0 * sp.a3_of(arc.eps) * i3_12;
+    arc.residual = domg - sp.f * salp0 * sp.a3_of(arc.eps) * i3_12;
 
-    // d lambda12 / d alpha1 = m12 / (a cos alpha2 cos beta2); where the
-    // geodesic arrives due east (beta2 = -beta1, alpha1 = pi/2) the limit
-    // -2 sqrt(1 - e2 cos^2 beta1) / sin beta1.
-    arc.m12 = 0;
-    if (want_m12 || arc.calp2 != 0) {
-        arc.m12 = lengths(sp, arc, true).m12;
-    }
-    if (arc.calp2 != 0)
-        arc.dlam12 = arc.m12 / (sp.a * arc.calp2 * p.cbet2);
-    else
-        arc.dlam12 = -2 * std::sqrt(1 - sp.e2 * sq(p.cbet1)) / p.sbet1;
+    // d lambda12 / d alpha1 = m12 / (a cos alpha2 cos beta2).  cos alpha2
+    // is never exactly 0 here (cos alpha1 comes from std::cos); were it so,
+    // the infinite or NaN Newton step would give way to bisection.
+    lengths(sp, arc);
+    arc.dlam12 = arc.m12 / (sp.a * arc.calp2 * p.cbet2);
     return arc;
 }
 
@@ -373,10 +365,10 @@ Solution solve(const Spheroid &sp, const Problem &p) {
     // meridian is the shortest path unless it passes a conjugate point,
     // which shows as a negative reduced length.
     if (p.slam12 == 0 || p.pole1) {
-        Arc arc = follow(sp, p, p.slam12, p.clam12, true);
+        Arc arc = follow(sp, p, p.slam12, p.clam12);
         if (p.pole1 || arc.sig12 < 1 || arc.m12 >= 0) {
             // d lambda / d alpha1 is not needed: the azimuths are exact.
-            return {lengths(sp, arc, false).s12, p.slam12, p.clam12, 0, 1};
+            return {arc.s12, p.slam12, p.clam12, 0, 1};
         }
     }
 
@@ -394,16 +386,17 @@ Solution solve(const Spheroid &sp, const Problem &p) {
     double residual = 0;
     bool converged = false;
     for (int round = 0; round < kMaxRounds && !converged; ++round) {
-        arc = follow(sp, p, std::sin(alpha1), std::cos(alpha1), false);
-        residual = arc.lam12 - p.lam12;
+        arc = follow(sp, p, std::sin(alpha1), std::cos(alpha1));
+        residual = arc.residual;
         if (residual > 0)
             hi = std::min(hi, alpha1);
         else
             lo = std::max(lo, alpha1);
         double step = -residual / arc.dlam12;
         double next = alpha1 + step;
-        converged = residual == 0 ||
-                    (std::fabs(step) <= kStepTol && next >= lo && next <= hi);
+        converged = residual == 0 || (std::fabs(step) <= kStepTol &&
+                                      std::fabs(residual) <= kStepTol &&
+                                      next >= lo && next <= hi);
         if (!converged && !(next > lo && next < hi)) {
             next = (lo + hi) / 2;
             // A bracket at the resolution of a double ends the search.
@@ -417,8 +410,7 @@ Solution solve(const Spheroid &sp, const Problem &p) {
     // distance is carried back along the parallel to first order.
     double salp1 = std::sin(alpha1), calp1 = std::cos(alpha1);
     Heading alp2 = arrival(p, salp1, calp1, salp1 * p.cbet1);
-    double s12 = lengths(sp, arc, false).s12 -
-                 sp.a * p.cbet2 * arc.salp2 * residual;
+    double s12 = arc.s12 - sp.a * p.cbet2 * arc.salp2 * residual;
     return {s12, salp1, calp1, alp2.s, alp2.c};
 }
 
