@@ -4,6 +4,8 @@
 // "." is the decimal separator whatever the host application has set.
 #include "veltra.h"
 
+#include "core/tolerance.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -57,7 +59,8 @@ Text print(double value, std::chars_format format, int precision, int width) {
         std::memcpy(raw, wide.buf, wide.length + 1);
         length = wide.length;
     }
-    int pad = std::max(0, width - length);
+    int pad = std::clamp(width - length, 0,
+                         static_cast<int>(sizeof t.buf) - 1 - length);
     std::memset(t.buf, ' ', pad);
     std::memcpy(t.buf + pad, raw, length + 1);
     t.length = pad + length;
@@ -95,6 +98,54 @@ char significant_digit(const Text &t, int n) {
 
 }  // namespace
 
+namespace {
+
+// The fixed, general or scientific text of a finite value with the given
+// number of significant digits; exponent is its decimal exponent.
+Text format_finite(double value, int significant, int exponent) {
+    Text out;
+    if (exponent < 0) {
+        // Below 1e-9 the general form is taken whatever the fixed text
+        // would be, so that text (hundreds of digits for 1e-300) is never
+        // printed.
+        bool general = exponent < kSmallExponent;
+        if (!general) {
+            int decimals = significant - exponent - 1;
+            out = print(value, std::chars_format::fixed, decimals,
+                        decimals + 3);
+            trim_zeros(out);
+            general = out.length > kFixedLimit;
+        }
+        if (general)
+            out = print(value, std::chars_format::general, significant - 1,
+                        significant + 7);
+    } else {
+        int decimals = significant - 1 - exponent;
+        if (decimals < 0) {
+            // More integer digits than significant ones: printf's default
+            // scientific form, six decimals (1e16 -> "1.000000e+016").
+            out = print(value, std::chars_format::scientific,
+                        kDefaultPrecision, significant + 7);
+        } else {
+            out = print(value, std::chars_format::fixed, decimals,
+                        significant + 2);
+            trim_zeros(out);
+        }
+    }
+    return out;
+}
+
+// Whether a written text reads back within the library tolerance.
+bool reads_back(const Text &t, double value) {
+    const char *p = t.buf;
+    while (*p == ' ') ++p;
+    double back = 0;
+    std::from_chars(p, t.buf + t.length, back);
+    return veltra::tol_eq(back, value);
+}
+
+}  // namespace
+
 extern "C" KA_API void ka_format_number(double value, char *text, int digits) {
     if (text == nullptr) return;
     const int d = std::clamp(digits, 1, kMaxDigits);
@@ -110,35 +161,19 @@ extern "C" KA_API void ka_format_number(double value, char *text, int digits) {
         const int exponent = exponent_of(sci);
 
         // Drop the last digit when the 14th and 15th digits show binary noise
-        // (0.1 + 0.2 = 0.30000000000000004 prints as 0.3).
-        int significant = d;
+        // (0.1 + 0.2 = 0.30000000000000004 prints as 0.3)...
+        bool noise = false;
         if (d == kDigits && exponent < kNoiseExponent) {
             char d14 = significant_digit(sci, 14);
             char d15 = significant_digit(sci, 15);
-            if ((d14 == '0' && d15 == '0') || (d14 == '9' && d15 == '9'))
-                significant = d - 1;
+            noise = (d14 == '0' && d15 == '0') || (d14 == '9' && d15 == '9');
         }
-
-        if (exponent < 0) {
-            int decimals = significant - exponent - 1;
-            out = print(value, std::chars_format::fixed, decimals, decimals + 3);
-            trim_zeros(out);
-            if (out.length > kFixedLimit || exponent < kSmallExponent)
-                out = print(value, std::chars_format::general, significant - 1,
-                            significant + 7);
-        } else {
-            int decimals = significant - 1 - exponent;
-            if (decimals < 0) {
-                // More integer digits than significant ones: printf's default
-                // scientific form, six decimals (1e16 -> "1.000000e+016").
-                out = print(value, std::chars_format::scientific,
-                            kDefaultPrecision, significant + 7);
-            } else {
-                out = print(value, std::chars_format::fixed, decimals,
-                            significant + 2);
-                trim_zeros(out);
-            }
-        }
+        out = format_finite(value, noise ? d - 1 : d, exponent);
+        // ... unless the dropped digit was real: 100.0000000000005 must
+        // not become 100.0, which is further away than the tolerance with
+        // which every written value has to read back.
+        if (noise && !reads_back(out, value))
+            out = format_finite(value, d, exponent);
     }
 
     const char *start = out.buf;
@@ -178,8 +213,13 @@ double out_of_range(const char *p, const char *end) {
             }
         }
     }
+    // The exponent text may hold any number of digits; strtoll saturates,
+    // and clamping far beyond any double's range keeps the sum exact.
+    constexpr long long kExponentLimit = 1LL << 40;
     long long exponent = 0;
-    if (p < end) exponent = std::strtoll(p + 1, nullptr, 10);
+    if (p < end)
+        exponent = std::clamp(std::strtoll(p + 1, nullptr, 10), -kExponentLimit,
+                              kExponentLimit);
     return position + exponent > 0 ? HUGE_VAL : 0.0;
 }
 
