@@ -15,9 +15,9 @@ namespace {
 const char kHelp[] =
     "usage: veltra project --pcs TEXT [--inverse] [--decimals N] [FILE | -]\n"
     "\n"
-    "Projects points through a projected coordinate system given as a PROJCS\n"
-    "text (TEXT itself, or @FILE for a file holding it).  Reads FILE, or\n"
-    "standard input, one point per line:\n"
+    "Projects points through a projected coordinate system given as a\n"
+    "catalogue code (32633) or a PROJCS text (TEXT itself, or @FILE for a\n"
+    "file holding it).  Reads FILE, or standard input, one point per line:\n"
     "\n"
     "  lon lat [rest]   longitude and latitude in the system's angular unit\n"
     "                   (degrees for UNIT[\"Degree\",...]), relative to its\n"
@@ -52,7 +52,7 @@ int run_project(int argc, char **argv, int first) {
     OutputFormat format;
     if (!read_format_options(args, format)) return kExitUsage;
     if (args.value("--pcs") == nullptr) {
-        complain("project: --pcs TEXT is required (a PROJCS text or @FILE)");
+        complain("project: --pcs TEXT is required (a catalogue code, a PROJCS text or @FILE)");
         return kExitUsage;
     }
     if (args.positional().size() > 1) {

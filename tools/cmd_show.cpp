@@ -12,13 +12,14 @@ namespace veltra_cli {
 namespace {
 
 const char kHelp[] =
-    "usage: veltra show [--kind] [TEXT | @FILE | -]\n"
+    "usage: veltra show [--kind] [CODE | TEXT | @FILE | -]\n"
     "\n"
     "Reads a coordinate-system text (PROJCS, GEOGCS, GEOGTRAN, DATUM,\n"
     "SPHEROID, PRIMEM, UNIT, PROJECTION, PARAMETER or METHOD, told apart by\n"
-    "its first keyword) and prints it as the library writes it: one line, no\n"
-    "blanks, parameters in slot order.  TEXT may be the text itself, @FILE\n"
-    "for a file holding it, or - (or nothing) for standard input.\n"
+    "its first keyword), or builds the catalogue object of a CODE such as\n"
+    "4326, and prints it as the library writes it: one line, no blanks,\n"
+    "parameters in slot order.  TEXT may be the text itself, @FILE for a\n"
+    "file holding it, or - (or nothing) for standard input.\n"
     "\n"
     "  --kind   print the kind (projcs, geogcs, ...) on a line before the text\n";
 
@@ -44,15 +45,11 @@ int run_show(int argc, char **argv, int first) {
         complain(error);
         return kExitUsage;
     }
-    const TextKind *kind = kind_of_text(text);
-    if (kind == nullptr) {
-        complain("not a coordinate-system text: it should start with a "
-                 "keyword such as PROJCS[ or GEOGCS[");
-        return kExitUsage;
-    }
-    void *object = kind->read(text.c_str());
+    const TextKind *kind = nullptr;
+    std::string why;
+    void *object = read_any(text, kind, why);
     if (object == nullptr) {
-        complain(why_unreadable(*kind, text));
+        complain(why);
         return kExitUsage;
     }
     char written[KA_TEXT_MAX];

@@ -16,8 +16,9 @@ const char kHelp[] =
     "usage: veltra transform --gt TEXT [--reverse] [--decimals N] [FILE | -]\n"
     "\n"
     "Transforms points through a geographic transformation given as a\n"
-    "GEOGTRAN text (TEXT itself, or @FILE for a file holding it), from its\n"
-    "first GEOGCS to its second, or back with --reverse.  Reads FILE, or\n"
+    "catalogue code (1241) or a GEOGTRAN text (TEXT itself, or @FILE for a\n"
+    "file holding it), from its first GEOGCS to its second, or back with\n"
+    "--reverse.  Reads FILE, or\n"
     "standard input, one point per line:\n"
     "\n"
     "  lon lat [height] [rest]\n"
@@ -54,7 +55,7 @@ int run_transform(int argc, char **argv, int first) {
     OutputFormat format;
     if (!read_format_options(args, format)) return kExitUsage;
     if (args.value("--gt") == nullptr) {
-        complain("transform: --gt TEXT is required (a GEOGTRAN text or @FILE)");
+        complain("transform: --gt TEXT is required (a catalogue code, a GEOGTRAN text or @FILE)");
         return kExitUsage;
     }
     if (args.positional().size() > 1) {

@@ -8,5 +8,6 @@ int run_show(int argc, char **argv, int first);
 int run_project(int argc, char **argv, int first);
 int run_transform(int argc, char **argv, int first);
 int run_geod(int argc, char **argv, int first);
+int run_list(int argc, char **argv, int first);
 
 }  // namespace veltra_cli

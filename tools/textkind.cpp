@@ -35,16 +35,18 @@ void del_as(void *object) {
 
 #define VELTRA_KIND(KEYWORD, kind)                                      \
     TextKind {                                                          \
-        KEYWORD, #kind, read_as<ka_##kind, ka_##kind##_from_string>,    \
+        KEYWORD, #kind, ka_##kind##_p,                                  \
+            read_as<ka_##kind, ka_##kind##_from_string>,                \
             write_as<ka_##kind, ka_##kind##_to_string>,                 \
             del_as<ka_##kind, ka_##kind##_del>                          \
     }
 
 const TextKind kKinds[] = {
-    TextKind{"PROJCS", "projcs", read_as<ka_projcs, ka_projcs_from_string>,
+    TextKind{"PROJCS", "projcs", ka_projcs_p,
+             read_as<ka_projcs, ka_projcs_from_string>,
              write_text_as<ka_projcs, ka_projcs_to_string>,
              del_as<ka_projcs, ka_projcs_del>},
-    TextKind{"GEOGTRAN", "geogtran",
+    TextKind{"GEOGTRAN", "geogtran", ka_geogtran_p,
              read_as<ka_geogtran, ka_geogtran_from_string>,
              write_text_as<ka_geogtran, ka_geogtran_to_string>,
              del_as<ka_geogtran, ka_geogtran_del>},
@@ -159,22 +161,72 @@ std::string why_unreadable(const TextKind &kind, const std::string &text) {
     return "a PARAMETER needs a name and a value";
 }
 
+const TextKind *kind_of_object(const void *object) {
+    for (const TextKind &kind : kKinds)
+        if (kind.is(object)) return &kind;
+    return nullptr;
+}
+
+bool catalogue_code(const std::string &text, int &code) {
+    std::size_t p = text.find_first_not_of(" \t\r\n");
+    std::size_t end = text.find_last_not_of(" \t\r\n");
+    if (p == std::string::npos) return false;
+    const std::string digits = text.substr(p, end - p + 1);
+    if (digits.size() > 9 ||
+        digits.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    code = std::stoi(digits);
+    return true;
+}
+
+void *read_any(const std::string &text, const TextKind *&kind,
+               std::string &why) {
+    int code = 0;
+    if (catalogue_code(text, code)) {
+        void *object = ka_factory(code);
+        kind = kind_of_object(object);
+        if (object == nullptr || kind == nullptr) {
+            why = "no catalogue object has the code " + std::to_string(code) +
+                  " (veltra list KIND shows the codes)";
+            return nullptr;
+        }
+        return object;
+    }
+    kind = kind_of_text(text);
+    if (kind == nullptr) {
+        why = "not a coordinate-system text or catalogue code: a text starts "
+              "with a keyword such as PROJCS[ or GEOGCS[";
+        return nullptr;
+    }
+    void *object = kind->read(text.c_str());
+    if (object == nullptr) why = why_unreadable(*kind, text);
+    return object;
+}
+
 void *read_required(const char *keyword, const std::string &text,
                     const char *what) {
+    // A text of the wrong kind is refused before it is read.
+    int code = 0;
     const TextKind *kind = kind_of_text(text);
-    if (kind == nullptr) {
-        complain(std::string(what) + ": not a coordinate-system text (expected " +
-                 keyword + "[...])");
+    if (!catalogue_code(text, code) && kind != nullptr &&
+        std::strcmp(kind->keyword, keyword) != 0) {
+        complain(std::string(what) + ": expected a " + keyword + " text, got " +
+                 kind->keyword);
+        return nullptr;
+    }
+    std::string why;
+    void *object = read_any(text, kind, why);
+    if (object == nullptr) {
+        complain(std::string(what) + ": " + why);
         return nullptr;
     }
     if (std::strcmp(kind->keyword, keyword) != 0) {
         complain(std::string(what) + ": expected a " + keyword +
-                 " text, got " + kind->keyword);
+                 ", got a " + kind->keyword + " (code " + std::to_string(code) +
+                 ")");
+        kind->del(object);
         return nullptr;
     }
-    void *object = kind->read(text.c_str());
-    if (object == nullptr)
-        complain(std::string(what) + ": " + why_unreadable(*kind, text));
     return object;
 }
 

@@ -18,10 +18,12 @@ const char kUsage[] =
     "  transform --gt TEXT [FILE]     move lon/lat[/height] points to another\n"
     "                                 datum (--reverse: back)\n"
     "  geod direct|inverse [FILE]     geodesic problems on a spheroid\n"
+    "  list KIND [PATTERN]            catalogue codes and names of a kind\n"
     "\n"
-    "TEXT is a text such as PROJCS[\"...\",GEOGCS[...],...] or @FILE for a file\n"
-    "holding one.  Points are read one per line from FILE or standard input\n"
-    "and written to standard output.  'veltra COMMAND --help' tells more.\n"
+    "TEXT is a catalogue code such as 32633, a text such as\n"
+    "PROJCS[\"...\",GEOGCS[...],...], or @FILE for a file holding one.  Points\n"
+    "are read one per line from FILE or standard input and written to\n"
+    "standard output.  'veltra COMMAND --help' tells more.\n"
     "\n"
     "  --version   print the library version\n"
     "  --help      print this help\n";
@@ -36,6 +38,7 @@ const Command kCommands[] = {
     {"project", veltra_cli::run_project},
     {"transform", veltra_cli::run_transform},
     {"geod", veltra_cli::run_geod},
+    {"list", veltra_cli::run_list},
 };
 
 }  // namespace
