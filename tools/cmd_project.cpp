@@ -1,12 +1,8 @@
 // veltra project: geographic to projected coordinates (and back) through a
-// projected coordinate system given in the text form.
-#include "args.h"
+// projected coordinate system.
 #include "commands.h"
-#include "points.h"
-#include "textkind.h"
+#include "convert.h"
 #include "veltra.h"
-
-#include <cstdio>
 
 namespace veltra_cli {
 
@@ -35,55 +31,29 @@ const char kHelp[] =
     "line number).  Exit status: 0 all converted, 1 some lines or points\n"
     "failed, 2 nothing done (bad options, unreadable PROJCS, missing file).\n";
 
-}  // namespace
-
-int run_project(int argc, char **argv, int first) {
-    Args args(argc, argv, first,
-              {{"--pcs", true}, {"--inverse", false}, {"--decimals", true},
-               {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(kHelp, stdout);
-        return kExitOk;
-    }
-    OutputFormat format;
-    if (!read_format_options(args, format)) return kExitUsage;
-    if (args.value("--pcs") == nullptr) {
-        complain("project: --pcs TEXT is required (a catalogue code, a PROJCS text or @FILE)");
-        return kExitUsage;
-    }
-    if (args.positional().size() > 1) {
-        complain("project: one input FILE at most");
-        return kExitUsage;
-    }
-    std::string text, error;
-    if (!load_text(*args.value("--pcs"), text, error)) {
-        complain("--pcs: " + error);
-        return kExitUsage;
-    }
-    auto *projcs =
-        static_cast<ka_projcs *>(read_required("PROJCS", text, "--pcs"));
-    if (projcs == nullptr) return kExitUsage;
+PointJob projection_job(void *object, bool inverse) {
+    auto *projcs = static_cast<ka_projcs *>(object);
     // Precomputed constants make long runs faster; without them the
     // projection computes what it needs per call, with the same results.
     ka_projcs_load_constants(projcs);
+    return {2, 2, false,
+            inverse ? "two numbers: x y" : "two numbers: lon lat",
+            [projcs, inverse](int n, double *values, double *) {
+                if (inverse)
+                    ka_proj_to_geog(projcs, n, values);
+                else
+                    ka_geog_to_proj(projcs, n, values);
+            }};
+}
 
-    const bool inverse = args.flag("--inverse");
-    PointJob job{2, 2, false, inverse ? "two numbers: x y" : "two numbers: lon lat",
-                 [projcs, inverse](int n, double *values, double *) {
-                     if (inverse)
-                         ka_proj_to_geog(projcs, n, values);
-                     else
-                         ka_geog_to_proj(projcs, n, values);
-                 }};
-    const std::string *path =
-        args.positional().empty() ? nullptr : &args.positional()[0];
-    const int status = run_point_job(path, job, format);
-    ka_projcs_del(projcs);
-    return status;
+const ConvertCommand kProject{
+    "project", kHelp, "--pcs", "PROJCS", "--inverse", projection_job,
+    [](void *object) { ka_projcs_del(static_cast<ka_projcs *>(object)); }};
+
+}  // namespace
+
+int run_project(int argc, char **argv, int first) {
+    return run_convert(argc, argv, first, kProject);
 }
 
 }  // namespace veltra_cli

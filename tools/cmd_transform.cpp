@@ -1,12 +1,8 @@
 // veltra transform: geographic coordinates from one datum to another
-// through a geographic transformation given in the text form.
-#include "args.h"
+// through a geographic transformation.
 #include "commands.h"
-#include "points.h"
-#include "textkind.h"
+#include "convert.h"
 #include "veltra.h"
-
-#include <cstdio>
 
 namespace veltra_cli {
 
@@ -38,55 +34,28 @@ const char kHelp[] =
     "number).  Exit status: 0 all converted, 1 some lines or points failed,\n"
     "2 nothing done (bad options, unreadable GEOGTRAN, missing file).\n";
 
-}  // namespace
-
-int run_transform(int argc, char **argv, int first) {
-    Args args(argc, argv, first,
-              {{"--gt", true}, {"--reverse", false}, {"--decimals", true},
-               {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(kHelp, stdout);
-        return kExitOk;
-    }
-    OutputFormat format;
-    if (!read_format_options(args, format)) return kExitUsage;
-    if (args.value("--gt") == nullptr) {
-        complain("transform: --gt TEXT is required (a catalogue code, a GEOGTRAN text or @FILE)");
-        return kExitUsage;
-    }
-    if (args.positional().size() > 1) {
-        complain("transform: one input FILE at most");
-        return kExitUsage;
-    }
-    std::string text, error;
-    if (!load_text(*args.value("--gt"), text, error)) {
-        complain("--gt: " + error);
-        return kExitUsage;
-    }
-    auto *geogtran =
-        static_cast<ka_geogtran *>(read_required("GEOGTRAN", text, "--gt"));
-    if (geogtran == nullptr) return kExitUsage;
+PointJob transformation_job(void *object, bool reverse) {
+    auto *geogtran = static_cast<ka_geogtran *>(object);
     // Grid methods read their grids once here instead of on every batch;
     // equation methods have nothing to load.
     ka_geogtran_load_constants(geogtran);
+    return {2, 2, true, "two numbers: lon lat [height]",
+            [geogtran, reverse](int n, double *values, double *heights) {
+                if (reverse)
+                    ka_geog2_to_geog1(geogtran, n, values, heights);
+                else
+                    ka_geog1_to_geog2(geogtran, n, values, heights);
+            }};
+}
 
-    const bool reverse = args.flag("--reverse");
-    PointJob job{2, 2, true, "two numbers: lon lat [height]",
-                 [geogtran, reverse](int n, double *values, double *heights) {
-                     if (reverse)
-                         ka_geog2_to_geog1(geogtran, n, values, heights);
-                     else
-                         ka_geog1_to_geog2(geogtran, n, values, heights);
-                 }};
-    const std::string *path =
-        args.positional().empty() ? nullptr : &args.positional()[0];
-    const int status = run_point_job(path, job, format);
-    ka_geogtran_del(geogtran);
-    return status;
+const ConvertCommand kTransform{
+    "transform", kHelp, "--gt", "GEOGTRAN", "--reverse", transformation_job,
+    [](void *object) { ka_geogtran_del(static_cast<ka_geogtran *>(object)); }};
+
+}  // namespace
+
+int run_transform(int argc, char **argv, int first) {
+    return run_convert(argc, argv, first, kTransform);
 }
 
 }  // namespace veltra_cli
