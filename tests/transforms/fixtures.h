@@ -10,15 +10,13 @@
 
 namespace fixtures {
 
-inline constexpr double kDegree = std::numbers::pi / 180;  // radians
-inline constexpr double kGrad = std::numbers::pi / 200;
+inline constexpr double kDegree = std::numbers::pi / 180, kGrad = std::numbers::pi / 200;  // radians
 
 // Degrees of d degrees, m minutes, s seconds.
 inline constexpr double dms(double d, double m, double s) { return d + m / 60 + s / 3600; }
 
 struct Ellipsoid {
-    const char *name;
-    double axis, inverse_flattening;
+    const char *name; double axis, inverse_flattening;
     double e2() const { return (2 - 1 / inverse_flattening) / inverse_flattening; }
 };
 
@@ -36,9 +34,9 @@ inline ka_geogcs *geogcs(const char *datum, const Ellipsoid &e, double meridian 
                          ka_primem_new("Meridian", meridian), ka_unit_new("Unit", unit));
 }
 
-// Transformation with the method of catalogue code `method` and the given
-// (parameter code, value) pairs.
-inline ka_geogtran *geogtran(ka_geogcs *from, ka_geogcs *to, int method,
+// Transformation with that method and the given (parameter code, value)
+// pairs; the method may be given by its catalogue code.
+inline ka_geogtran *geogtran(ka_geogcs *from, ka_geogcs *to, ka_method *method,
                              std::initializer_list<std::pair<int, double>> values = {}) {
     ka_parameter *slots[KA_PARAMETER_SLOTS] = {};
     for (auto [code, value] : values) {
@@ -46,7 +44,12 @@ inline ka_geogtran *geogtran(ka_geogcs *from, ka_geogcs *to, int method,
         ka_parameter_value_set(p, value);
         slots[ka_parameter_index(p)] = p;
     }
-    return ka_geogtran_new("Transformation", from, to, ka_factory_method(method), slots);
+    return ka_geogtran_new("Transformation", from, to, method, slots);
+}
+
+inline ka_geogtran *geogtran(ka_geogcs *from, ka_geogcs *to, int method,
+                             std::initializer_list<std::pair<int, double>> values = {}) {
+    return geogtran(from, to, ka_factory_method(method), values);
 }
 
 // Catalogue codes of the methods and of their parameters.
