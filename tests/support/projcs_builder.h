@@ -44,9 +44,12 @@ inline ka_geogcs *make_geogcs(double axis, double flattening,
         ka_unit_new("Test_Angle", units.angular));
 }
 
-// Parameters placed in their slots by name.
-inline std::array<ka_parameter *, KA_PARAMETER_SLOTS> make_parameters(
-    std::initializer_list<ParameterValue> values) {
+// A projected system whose parameters are placed in their slots by name.
+inline ProjcsPtr make_projcs(const char *projection, double axis,
+                             double flattening,
+                             std::initializer_list<ParameterValue> values,
+                             const Units &units = {},
+                             const char *name = "PCS_Test") {
     std::array<ka_parameter *, KA_PARAMETER_SLOTS> slots{};
     for (const ParameterValue &v : values) {
         ka_parameter *p = ka_parameter_new(v.name, v.value);
@@ -56,18 +59,9 @@ inline std::array<ka_parameter *, KA_PARAMETER_SLOTS> make_parameters(
         else
             ka_parameter_del(p);
     }
-    return slots;
-}
-
-inline ProjcsPtr make_projcs(const char *projection, double axis,
-                             double flattening,
-                             std::initializer_list<ParameterValue> values,
-                             const Units &units = {},
-                             const char *name = "PCS_Test") {
-    auto parameters = make_parameters(values);
     return ProjcsPtr(ka_projcs_new(name, make_geogcs(axis, flattening, units),
                                    registry_projection(projection),
-                                   parameters.data(),
+                                   slots.data(),
                                    ka_unit_new("Test_Length", units.linear)));
 }
 

@@ -1,4 +1,4 @@
-// The two home directories and path joining.
+// Where grid files are looked for: the data home and path joining.
 #include "transforms/datahome.h"
 #include "transforms/pathcat.h"
 #include "veltra.h"
@@ -10,58 +10,34 @@
 
 namespace {
 
-using veltra::path_join;
+const char *home_callback() { return "/from/callback"; }
 
-std::string join(const char *dir, const char *name, std::size_t size = 256) {
-    char out[256] = "garbage";
-    if (!path_join(out, size, dir, name)) return "(failed:" + std::string(out) + ")";
-    return out;
-}
-
-TEST(PathJoin, AddsOneSeparatorUnlessTheDirectoryEndsWithOne) {
-    EXPECT_EQ(join("/data", "ntv2"), "/data/ntv2");
-    EXPECT_EQ(join("/data/", "ntv2"), "/data/ntv2");
-    EXPECT_EQ(join("/data//", "ntv2"), "/data//ntv2");  // not normalised
-    EXPECT_EQ(join("rel", "a/b.gsb"), "rel/a/b.gsb");
-    EXPECT_EQ(join("", "unit"), "/unit");
-}
-
-TEST(PathJoin, RefusesWhatDoesNotFit) {
-    EXPECT_EQ(join("/data", "ntv2", 11), "/data/ntv2");
-    EXPECT_EQ(join("/data", "ntv2", 10), "(failed:)");
-    EXPECT_EQ(join(nullptr, "ntv2"), "(failed:)");
-    EXPECT_EQ(join("/data", nullptr), "(failed:)");
-    std::string long_dir(300, 'd');
-    EXPECT_EQ(join(long_dir.c_str(), "x"), "(failed:)");
-}
-
-const char *home_a() { return "/from/callback"; }
-const char *home_none() { return nullptr; }
-
-TEST(Homes, CallbackElseEnvironment) {
-    ka_datahome_setfunc(nullptr);
-    ka_objedithome_setfunc(nullptr);
-    unsetenv("KADATAHOME");
-    unsetenv("KAOBJEDITHOME");
-    EXPECT_EQ(veltra::data_home(), nullptr);
+// Paths join with one separator unless the directory ends with one,
+// nothing normalised; what does not fit, or a missing part, gives false and
+// an empty result.  The data home is an installed callback's alone, else
+// $KADATAHOME's, an empty value meaning none (the rule itself is the
+// object-edit home's, tested with the override files).
+TEST(DataFiles, PathJoinAndHome) {
+    const std::string long_dir(300, 'd');
+    const struct { const char *dir, *name; std::size_t size; const char *joined; } cases[] = {
+        {"/data", "ntv2", 256, "/data/ntv2"}, {"/data/", "ntv2", 256, "/data/ntv2"},
+        {"/data//", "ntv2", 256, "/data//ntv2"}, {"", "unit", 256, "/unit"},
+        {"/data", "ntv2", 11, "/data/ntv2"}, {"/data", "ntv2", 10, nullptr},
+        {nullptr, "ntv2", 256, nullptr}, {"/data", nullptr, 256, nullptr},
+        {long_dir.c_str(), "x", 256, nullptr}};
+    for (const auto &c : cases) {
+        char out[256] = "garbage";
+        EXPECT_EQ(veltra::path_join(out, c.size, c.dir, c.name), c.joined != nullptr) << c.size;
+        EXPECT_STREQ(out, c.joined ? c.joined : "") << c.size;
+    }
     setenv("KADATAHOME", "/from/env", 1);
     EXPECT_STREQ(veltra::data_home(), "/from/env");
-    EXPECT_EQ(ka_datahome_setfunc(home_a), home_a);
+    EXPECT_EQ(ka_datahome_setfunc(home_callback), home_callback);
     EXPECT_STREQ(veltra::data_home(), "/from/callback");
-    ka_datahome_setfunc(home_none);
-    EXPECT_EQ(veltra::data_home(), nullptr);
     ka_datahome_setfunc(nullptr);
-    EXPECT_STREQ(veltra::data_home(), "/from/env");
     setenv("KADATAHOME", "", 1);
     EXPECT_EQ(veltra::data_home(), nullptr);
     unsetenv("KADATAHOME");
-
-    // The two homes are independent.
-    ka_objedithome_setfunc(home_a);
-    EXPECT_EQ(veltra::data_home(), nullptr);
-    EXPECT_STREQ(veltra::objedit_home(), "/from/callback");
-    ka_objedithome_setfunc(nullptr);
-    EXPECT_EQ(veltra::objedit_home(), nullptr);
 }
 
 }  // namespace
