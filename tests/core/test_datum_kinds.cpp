@@ -13,14 +13,13 @@ TEST(Construction, RejectsValuesOutsideTheirDomain) {
     for (double factor : {0.0, -1.0, std::nan("")}) EXPECT_EQ(ka_unit_new("U", factor), nullptr);
     for (auto [axis, f] : {std::pair{0.0, 0.0}, {std::nan(""), 0.0}, {1.0, 1.0}, {1.0, -0.1}})
         EXPECT_EQ(ka_spheroid_new("S", axis, f), nullptr) << axis << " " << f;
+    ka_spheroid *spheroid = ka_spheroid_new("S", 1.0, 0.0);
     EXPECT_FALSE(ka_unit_new(nullptr, 1) || ka_primem_new("P", 180.5) ||
-                 ka_datum_new("D", nullptr));
+                 ka_datum_new("D", nullptr) || ka_datum_new(nullptr, spheroid));
     auto accepted = [](auto *object) { EXPECT_NE(object, nullptr); del(object); };
     accepted(ka_spheroid_new("S", 1.0, std::nan("")));  // a NaN passes both tests
     for (double longitude : {180.0, -180.0, std::nan("")}) accepted(ka_primem_new("P", longitude));
     // A failed composite leaves its parts to the caller.
-    ka_spheroid *spheroid = ka_spheroid_new("S", 1.0, 0.0);
-    EXPECT_EQ(ka_datum_new(nullptr, spheroid), nullptr);
     ka_datum *datum = ka_datum_new("D", spheroid);
     ka_unit *unit = ka_unit_new("Degree", kDegree);
     EXPECT_EQ(ka_geogcs_new("G", datum, nullptr, unit), nullptr);

@@ -40,8 +40,11 @@ TEST(Parameter, SlotsByNameEqualityAndSetters) {
     EXPECT_EQ(NAME_OF(parameter, d), std::string(63, 'x'));
     EXPECT_FALSE(ka_parameter_new(nullptr, 1) || ka_parameter_value_set(nullptr, 1) ||
                  ka_parameter_name_set(nullptr, "x") || ka_parameter_name_set(d, nullptr) ||
-                 ka_parameter_value(nullptr));
-    del(unit, a, b, c, d);
+                 ka_parameter_value(nullptr) || ka_factory_parameter(100000));
+    // The parameter catalogue: code 100025 is Standard_Parallel_1, default 60.
+    ka_parameter *sp1 = ka_factory_parameter(100025);
+    EXPECT_TRUE(NAME_OF(parameter, sp1) == "Standard_Parallel_1" && ka_parameter_value(sp1) == 60);
+    del(unit, a, b, c, d, sp1);
 }
 
 // Projections are equal by names and routines (the constants routine is
