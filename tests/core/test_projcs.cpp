@@ -1,21 +1,78 @@
-// Projections and projected systems: equality, cloning (plain and into
-// other units), constants loading.
-#include <gtest/gtest.h>
+// Parameters, projections and projected systems: slots by name, equality,
+// cloning into other units, constants loading, and the geographic-projected
+// drivers.
+#include "core/fixtures.h"
 
-#include <cmath>
+#if VELTRA_HAVE_PROJ
+#include <proj.h>
+#endif
 
-#include "support/projcs_builder.h"
+using namespace fixtures;
 
 namespace {
 
-using namespace veltra::test;
+TEST(Parameter, SlotsByNameEqualityAndSetters) {
+    const std::pair<const char *, int> rows[] = {
+        {"false_northing", 1}, {"Longitude_Of_Origin", 2}, {"CENTRAL_MERIDIAN", 2},
+        {"Pseudo_Standard_Parallel_1", 3}, {"Latitude_Of_2nd_Point", 4}, {"Central_Parallel", 6},
+        {"Longitude_Of_Center", 10}, {"XY_Plane_Rotation", 14}, {"Height", 15},
+        {"Z_Axis_Translation", 2}, {"Scale_Difference", 6}, {"Dataset_", 15},
+        {"dataset_conus", 15}, {"DaTaSeT_ntv2_0.gsb", 15}, {"Dataset", -1}, {"Datasets_x", -1},
+        {"Standard_Parallel_3", -1}, {"", -1}};
+    for (auto [name, slot] : rows) {
+        ka_parameter *p = ka_parameter_new(name, 0);
+        EXPECT_EQ(ka_parameter_index(p), slot) << name;
+        del(p);
+    }
+    ka_unit *unit = ka_unit_new("Height", 1);
+    EXPECT_TRUE(ka_parameter_index(reinterpret_cast<ka_parameter *>(unit)) == -2 &&
+                ka_parameter_index(nullptr) == -2);
 
-ProjcsPtr utm31(const char *name = "PCS_Test") {
-    return make_projcs("Transverse_Mercator", kWgs84Axis, kWgs84Flattening,
-                       {{"False_Easting", 500000},
-                        {"Central_Meridian", 3},
-                        {"Scale_Factor", 0.9996}},
-                       {}, name);
+    ka_parameter *a = ka_parameter_new("Scale_Factor", 0.9996);
+    ka_parameter *b = ka_parameter_new("SCALE_FACTOR", 0.9996 + 1e-16);
+    ka_parameter *c = ka_parameter_new("Scale_Factor", 0.9997), *d = ka_parameter_new("Azimuth", 1);
+    EXPECT_TRUE(ka_parameter_eq(a, b));
+    EXPECT_FALSE(ka_parameter_eq(a, c) || ka_parameter_eq(a, d) || ka_parameter_eq(a, nullptr));
+    // Any value is accepted; a name longer than the field is cut, not overrun.
+    EXPECT_TRUE(ka_parameter_value_set(d, NAN) && ka_parameter_value_set(d, 12.5) &&
+                ka_parameter_value(d) == 12.5);
+    EXPECT_EQ(ka_parameter_name_set(d, std::string(100, 'x').c_str()), 1);
+    EXPECT_EQ(NAME_OF(parameter, d), std::string(63, 'x'));
+    EXPECT_FALSE(ka_parameter_new(nullptr, 1) || ka_parameter_value_set(nullptr, 1) ||
+                 ka_parameter_name_set(nullptr, "x") || ka_parameter_name_set(d, nullptr) ||
+                 ka_parameter_value(nullptr) || ka_factory_parameter(100000));
+    // The parameter catalogue: code 100025 is Standard_Parallel_1, default 60.
+    ka_parameter *sp1 = ka_factory_parameter(100025);
+    EXPECT_TRUE(NAME_OF(parameter, sp1) == "Standard_Parallel_1" && ka_parameter_value(sp1) == 60);
+    del(unit, a, b, c, d, sp1);
+}
+
+// Projections are equal by names and routines (the constants routine is
+// not compared); a missing horizon becomes the default one.
+TEST(Projcs, EqualityOfProjectionsAndSystems) {
+    ka_projection *table = ka_projection_from_string("PROJECTION[\"Mercator\"]");
+    const auto forward = ka_projection_forward(table), inverse = ka_projection_inverse(table);
+    const auto horizon = ka_projection_horizon(table);
+    ka_projection *same = ka_projection_new("MERCATOR", forward, inverse, horizon);
+    ka_projection *default_horizon = ka_projection_new("Mercator", forward, inverse, nullptr);
+    EXPECT_TRUE(ka_projection_eq(table, same) && !ka_projection_eq(table, default_horizon));
+    EXPECT_EQ(ka_projection_horizon(default_horizon), ka_projection_horizon(nullptr));
+    EXPECT_FALSE(ka_projection_new(nullptr, forward, inverse, nullptr) ||
+                 ka_projection_new("x", forward, nullptr, nullptr) ||
+                 ka_projection_new("x", nullptr, inverse, nullptr));
+    del(table, same, default_horizon);
+    ka_projcs *a = utm33n(), *b = utm33n(), *renamed = utm33n("Other");
+    EXPECT_TRUE(ka_projcs_eq(a, b) && ka_projcs_eqnn(a, renamed));
+    EXPECT_FALSE(ka_projcs_eq(a, renamed) || ka_projcs_eq(nullptr, a) ||
+                 ka_projcs_eqnn(a, nullptr));
+    // A slot filled in one system only, even with 0, makes them unequal; so
+    // does an alias of another name in the same slot.
+    ka_projcs *one = projcs("Mercator", {{"Central_Meridian", 0}});
+    ka_projcs *two = projcs("Mercator", {{"Central_Meridian", 0}, {"False_Easting", 0}});
+    ka_projcs *alias = projcs("Mercator", {{"Longitude_Of_Origin", 0}});
+    EXPECT_FALSE(ka_projcs_eqnn(one, two) || ka_projcs_eqnn(two, one) ||
+                 ka_projcs_eqnn(one, alias));
+    del(a, b, renamed, one, two, alias);
 }
 
 double slot_value(const ka_projcs *pcs, int slot) {
@@ -24,124 +81,113 @@ double slot_value(const ka_projcs *pcs, int slot) {
     return ka_parameter_value(slots[slot]);
 }
 
-// Equal names and routines; the constants calculator is not compared, and
-// a missing horizon becomes the default one.
-TEST(Projection, EqualityIsNameAndRoutines) {
-    ka_projection *registry = ka_factory_projection(43004);  // Mercator
-    const auto forward = ka_projection_forward(registry);
-    const auto inverse = ka_projection_inverse(registry);
-    ka_projection *plain = ka_projection_new("MERCATOR", forward, inverse,
-                                             ka_projection_horizon(registry));
-    ka_projection *default_horizon =
-        ka_projection_new("Mercator", forward, inverse, nullptr);
-    EXPECT_TRUE(ka_projection_eq(registry, plain));
-    EXPECT_FALSE(ka_projection_eq(registry, default_horizon));
-    EXPECT_EQ(ka_projection_horizon(default_horizon),
-              ka_projection_horizon(nullptr));
-    EXPECT_EQ(ka_projection_new(nullptr, forward, inverse, nullptr), nullptr);
-    EXPECT_EQ(ka_projection_new("x", forward, nullptr, nullptr), nullptr);
-    for (ka_projection *p : {registry, plain, default_horizon})
-        ka_projection_del(p);
+// Metres to feet: the false easting of 500000 m is 500000 / 0.3048 ft.
+// Degrees to grads: 15 degrees are 15 / 0.9 grads.  The caller keeps its units.
+TEST(Projcs, ClonesAreUnloadedAndTakeOtherUnits) {
+    ka_projcs *pcs = utm33n();
+    ASSERT_EQ(ka_projcs_load_constants(pcs), 3);
+    ka_unit *foot = ka_unit_new("Foot", 0.3048), *grad = ka_unit_new("Grad", kGrad);
+    ka_unit *metre = ka_unit_new("Metre", 1.0), *degree = ka_unit_new("Deg", kDegree);
+    ka_projcs *copy = ka_projcs_clone(pcs), *feet = ka_projcs_clone_alterunits(pcs, foot, nullptr);
+    ka_projcs *grads = ka_projcs_clone_alterunits(pcs, nullptr, grad);
+    ka_projcs *same_factors = ka_projcs_clone_alterunits(pcs, metre, degree);
+    del(foot, grad, metre, degree);
+    EXPECT_TRUE(ka_projcs_eq(pcs, copy) && ka_projcs_eq(pcs, same_factors));
+    EXPECT_FALSE(ka_projcs_isconstloaded(copy) || ka_projcs_isconstloaded(feet));
+    EXPECT_NEAR(slot_value(feet, 0), 1640419.9475065616, 1e-8);
+    EXPECT_EQ(TEXT_OF(unit, ka_projcs_unit(feet)), "UNIT[\"Foot\",0.3048]");
+    EXPECT_NEAR(slot_value(grads, 2), 15.0 / 0.9, 1e-13);
+    EXPECT_TRUE(slot_value(grads, 0) == 500000.0 && slot_value(feet, 2) == 15.0);
+    EXPECT_EQ(ka_unit_factor(ka_geogcs_unit(ka_projcs_geogcs(grads))), kGrad);
+    EXPECT_EQ(NAME_OF(geogcs, ka_projcs_geogcs(grads)), "GCS_WGS_1984");
+    EXPECT_EQ(NAME_OF(projcs, grads), "WGS_1984_UTM_Zone_33N");
+    EXPECT_FALSE(ka_projcs_clone(nullptr) || ka_projcs_clone_alterunits(nullptr, nullptr, nullptr));
+    del(pcs, copy, feet, grads, same_factors);
 }
 
-TEST(Projcs, EqComparesTheSystemsNamesEqnnDoesNot) {
-    ProjcsPtr a = utm31(), b = utm31(), renamed = utm31("Other");
-    EXPECT_TRUE(ka_projcs_eq(a.get(), b.get()));
-    EXPECT_FALSE(ka_projcs_eq(a.get(), renamed.get()));
-    EXPECT_TRUE(ka_projcs_eqnn(a.get(), renamed.get()));
-    EXPECT_FALSE(ka_projcs_eq(nullptr, a.get()));
+using Driver = int (*)(const ka_projcs *, int, double *);
+std::pair<double, double> convert(Driver driver, const ka_projcs *pcs, double a, double b) {
+    double c[2] = {a, b};
+    driver(pcs, 1, c);
+    return {c[0], c[1]};
 }
 
-TEST(Projcs, ASlotFilledInOnlyOneSystemMakesThemUnequal) {
-    ProjcsPtr a =
-        make_projcs("Mercator", kWgs84Axis, 0, {{"Central_Meridian", 0}});
-    ProjcsPtr b = make_projcs("Mercator", kWgs84Axis, 0,
-                              {{"Central_Meridian", 0}, {"False_Easting", 0}});
-    ProjcsPtr alias =
-        make_projcs("Mercator", kWgs84Axis, 0, {{"Longitude_Of_Origin", 0}});
-    EXPECT_FALSE(ka_projcs_eqnn(a.get(), b.get()));
-    EXPECT_FALSE(ka_projcs_eqnn(a.get(), alias.get()));
-}
-
-TEST(Projcs, CloneIsDeepEqualAndUnloaded) {
-    ProjcsPtr pcs = utm31();
-    ASSERT_GT(ka_projcs_load_constants(pcs.get()), 0);
-    ProjcsPtr copy(ka_projcs_clone(pcs.get()));
-    EXPECT_TRUE(ka_projcs_isconstloaded(pcs.get()));
-    EXPECT_FALSE(ka_projcs_isconstloaded(copy.get()));
-    EXPECT_TRUE(ka_projcs_eq(pcs.get(), copy.get()));
-    EXPECT_NE(ka_projcs_geogcs(copy.get()), ka_projcs_geogcs(pcs.get()));
-    EXPECT_EQ(ka_projcs_clone(nullptr), nullptr);
-}
-
-TEST(Projcs, CloneIntoFeetScalesTheFalseOrigin) {
-    ProjcsPtr pcs = utm31();
-    ka_unit *foot = ka_unit_new("Foot", 0.3048);
-    ProjcsPtr feet(ka_projcs_clone_alterunits(pcs.get(), foot, nullptr));
-    ka_unit_del(foot);  // the caller keeps its unit
-    ASSERT_NE(feet, nullptr);
-    EXPECT_NEAR(slot_value(feet.get(), 0), 1640419.9475065616, 1e-8);
-    EXPECT_EQ(slot_value(feet.get(), 2), 3.0);
-    EXPECT_EQ(ka_unit_factor(ka_projcs_unit(feet.get())), 0.3048);
-    const Point m = to_proj(pcs.get(), 4.5, 51.0);
-    const Point f = to_proj(feet.get(), 4.5, 51.0);
-    EXPECT_NEAR(f.x * 0.3048, m.x, 1e-6);
-    EXPECT_NEAR(f.y * 0.3048, m.y, 1e-6);
-}
-
-TEST(Projcs, CloneIntoGradsScalesTheAngles) {
-    ProjcsPtr pcs = utm31();
-    ka_unit *grad = ka_unit_new("Grad", kGrad);
-    ProjcsPtr grads(ka_projcs_clone_alterunits(pcs.get(), nullptr, grad));
-    ka_unit_del(grad);
-    ASSERT_NE(grads, nullptr);
-    EXPECT_NEAR(slot_value(grads.get(), 2), 3.0 / 0.9, 1e-13);
-    EXPECT_EQ(slot_value(grads.get(), 0), 500000.0);
-    char name[KA_NAME_MAX];
-    ka_geogcs_name(ka_projcs_geogcs(grads.get()), name);
-    EXPECT_STREQ(name, "GCS_Test");
-    const Point d = to_proj(pcs.get(), 4.5, 51.0);
-    const Point g = to_proj(grads.get(), 5.0, 51.0 / 0.9);
-    EXPECT_NEAR(g.x, d.x, 1e-6);
-    EXPECT_NEAR(g.y, d.y, 1e-6);
-}
-
-// Units with the current factors (whatever their names) give a plain clone.
-TEST(Projcs, CloneWithUnchangedFactorsIsAPlainClone) {
-    ProjcsPtr pcs = utm31();
-    ka_unit *metre = ka_unit_new("Another_Metre", 1.0);
-    ka_unit *degree = ka_unit_new("Deg", kDegree);
-    ProjcsPtr copy(ka_projcs_clone_alterunits(pcs.get(), metre, degree));
-    EXPECT_TRUE(ka_projcs_eq(copy.get(), pcs.get()));
-    EXPECT_EQ(ka_projcs_clone_alterunits(nullptr, metre, degree), nullptr);
-    ka_unit_del(metre);
-    ka_unit_del(degree);
-}
-
-TEST(Projcs, LoadingNeedsACalculator) {
-    ProjcsPtr tm = utm31();
-    EXPECT_EQ(ka_projcs_load_constants(tm.get()), 3);
-    EXPECT_EQ(ka_projcs_load_constants(tm.get()), 3);  // reload
-    ka_projcs_unload_constants(tm.get());
-    EXPECT_EQ(ka_projcs_isconstloaded(tm.get()), 0);
-    ProjcsPtr plate = make_projcs("Plate_Carree", 6371000, 0, {});
-    EXPECT_EQ(ka_projcs_load_constants(plate.get()), 0);
-    EXPECT_EQ(ka_projcs_isconstloaded(plate.get()), 0);
-    EXPECT_EQ(ka_projcs_load_constants(nullptr), 0);
-}
-
-// Loaded constants stay in force until reloaded, even when a parameter
-// they came from changes.
-TEST(Projcs, ChangingAParameterKeepsTheLoadedConstants) {
-    ProjcsPtr pcs = make_projcs("Mercator", kWgs84Axis, kWgs84Flattening,
-                                {{"Standard_Parallel_1", 0}});
-    ASSERT_EQ(ka_projcs_load_constants(pcs.get()), 2);
+// Loaded constants stay in force until reloaded, even when a parameter they
+// came from changes.  Mercator x = a k0 (lon - lon0), with k0 = 1 on the
+// equator as standard parallel and cos 60 (ellipsoidal: about 0.5) at 60.
+TEST(Projcs, ConstantsStayUntilReloaded) {
+    ka_projcs *pcs = projcs("Mercator", {{"Standard_Parallel_1", 0}});
+    ka_projcs *plate = projcs("Plate_Carree", {});
+    ASSERT_EQ(ka_projcs_load_constants(pcs), 2);
     ka_parameter *slots[KA_PARAMETER_SLOTS];
-    ka_projcs_parameters(pcs.get(), slots);
+    ka_projcs_parameters(pcs, slots);
     ka_parameter_value_set(slots[3], 60);
-    EXPECT_NEAR(to_proj(pcs.get(), 1, 0).x, kWgs84Axis * kDegree, 1e-6);
-    ka_projcs_load_constants(pcs.get());
-    EXPECT_LT(to_proj(pcs.get(), 1, 0).x, 0.6 * kWgs84Axis * kDegree);
+    EXPECT_NEAR(convert(ka_geog_to_proj, pcs, 1, 0).first, 6378137.0 * kDegree, 1e-6);
+    EXPECT_EQ(ka_projcs_load_constants(pcs), 2);  // reload: the first record goes
+    EXPECT_LT(convert(ka_geog_to_proj, pcs, 1, 0).first, 0.6 * 6378137.0 * kDegree);
+    ka_projcs_unload_constants(pcs);
+    EXPECT_FALSE(ka_projcs_isconstloaded(pcs));
+    // Without a constants routine, or a system, nothing loads.
+    EXPECT_FALSE(ka_projcs_load_constants(plate) || ka_projcs_isconstloaded(plate) ||
+                 ka_projcs_load_constants(nullptr));
+    ka_projcs_unload_constants(nullptr);
+    del(pcs, plate);
+}
+
+TEST(GeogToProj, CountsAndFailedPoints) {
+    ka_projcs *pcs = projcs("Mercator", {{"False_Easting", 1000}});
+    double c[4] = {12.0, 34.0, 0, 0};
+    EXPECT_EQ(ka_geog_to_proj(pcs, 0, c) + ka_proj_to_geog(pcs, 0, c) +
+                  ka_geog_to_proj(pcs, -3, c) + ka_geog_to_proj(pcs, 5, nullptr),
+              0);
+    // An invalid system: factors 1, no false origin, the routine that
+    // changes nothing and returns n.
+    EXPECT_EQ(ka_geog_to_proj(nullptr, 1, c) + ka_proj_to_geog(nullptr, 1, c), 2);
+    EXPECT_TRUE(c[0] == 12.0 && c[1] == 34.0);
+    // A cylindrical equal-area system on a polar standard parallel has no
+    // cylinder: every point fails, and its marks survive units and origin.
+    ka_projcs *polar = projcs("Cylindrical_Equal_Area",
+                              {{"Standard_Parallel_1", 90}, {"False_Easting", 1000},
+                               {"False_Northing", 1000}},
+                              wgs84(), 0.3048);
+    EXPECT_EQ(ka_geog_to_proj(polar, 2, c), 0);
+    EXPECT_TRUE(std::all_of(c, c + 4, [](double v) { return std::isnan(v); }));
+    del(pcs, polar);
+}
+
+// Plate Carree on the unit sphere shows what the routine receives: x = lon
+// and y = lat in radians (here from grads), the prime meridian not applied.
+// In US survey feet the false origin is given in feet, added in metres and
+// the sum written in feet; PROJ takes the false origin in metres.
+TEST(GeogToProj, UnitsOfPointsAndParameters) {
+    ka_projcs *grads = projcs("Plate_Carree", {{"Central_Meridian", 100}},
+                              geogcs("G", "D", "S", 1.0, 0, kGrad, 2.3));
+    const auto [gx, gy] = convert(ka_geog_to_proj, grads, 150, -50);
+    EXPECT_DOUBLE_EQ(gx, 50 * kGrad);
+    EXPECT_DOUBLE_EQ(gy, -50 * kGrad);
+    ka_projcs *feet = projcs("Transverse_Mercator",
+                             {{"False_Easting", 2000000}, {"False_Northing", 500000},
+                              {"Central_Meridian", -120.5}, {"Scale_Factor", 0.9999},
+                              {"Latitude_Of_Origin", 35.0}},
+                             geogcs("G", "D", "GRS_1980", 6378137.0, 1 / 298.257222101),
+                             1200.0 / 3937);  // the US survey foot
+    const auto [x, y] = convert(ka_geog_to_proj, feet, -121.25, 36.5);
+    const auto [lon, lat] = convert(ka_proj_to_geog, feet, x, y);
+    EXPECT_NEAR(lon, -121.25, 1e-10);
+    EXPECT_NEAR(lat, 36.5, 1e-10);
+#if VELTRA_HAVE_PROJ
+    PJ_CONTEXT *context = proj_context_create();
+    PJ *tmerc = proj_create(context, "+proj=tmerc +ellps=GRS80 +lat_0=35 +lon_0=-120.5 +k=0.9999 "
+                                     "+x_0=609601.2192024384 +y_0=152400.3048006096 +units=us-ft");
+    ASSERT_NE(tmerc, nullptr);
+    const PJ_COORD lonlat = proj_coord(proj_torad(-121.25), proj_torad(36.5), 0, 0);
+    const PJ_COORD xy = proj_trans(tmerc, PJ_FWD, lonlat);
+    EXPECT_NEAR(x, xy.xy.x, 1e-3);
+    EXPECT_NEAR(y, xy.xy.y, 1e-3);
+    proj_destroy(tmerc);
+    proj_context_destroy(context);
+#endif
+    del(grads, feet);
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -15,85 +14,59 @@
 
 namespace cli {
 
-struct Result {
-    int status = -1;
-    std::string out;
-    std::string err;
-
-    std::vector<std::string> out_lines() const {
-        std::vector<std::string> lines;
-        std::istringstream in(out);
-        for (std::string line; std::getline(in, line);) lines.push_back(line);
-        return lines;
-    }
-};
-
 inline std::string slurp(const std::string &path) {
-    std::ifstream in(path, std::ios::binary);
     std::ostringstream s;
-    s << in.rdbuf();
+    s << std::ifstream(path, std::ios::binary).rdbuf();
     return s.str();
 }
 
-// Single-quotes an argument for the shell.
-inline std::string quote(const std::string &arg) {
-    std::string q(1, '\'');
-    for (char c : arg) {
-        if (c == '\'')
-            q.append("'\\''");
-        else
-            q.push_back(c);
-    }
-    q.push_back('\'');
-    return q;
+inline std::vector<std::string> lines_of(const std::string &text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
 }
 
-inline Result run(const std::vector<std::string> &args,
-                  const std::string &input = "") {
-    const std::string dir = ::testing::TempDir();
-    const std::string base = dir + "veltra_cli_" +
-                             ::testing::UnitTest::GetInstance()
-                                 ->current_test_info()
-                                 ->name();
-    {
-        std::ofstream in(base + ".in", std::ios::binary);
-        in << input;
+struct Result {
+    int status = -1;
+    std::string out, err;
+    std::vector<std::string> lines() const { return lines_of(out); }
+};
+
+inline Result run(const std::vector<std::string> &args, const std::string &input = "") {
+    const std::string base =
+        ::testing::TempDir() + "veltra_cli_" +
+        ::testing::UnitTest::GetInstance()->current_test_info()->name();
+    std::ofstream(base + ".in", std::ios::binary) << input;
+    // Every argument single-quoted for the shell.
+    std::string command = "'" VELTRA_CLI "'";
+    for (const std::string &arg : args) {
+        command += " '";
+        for (char c : arg) command += c == '\'' ? std::string("'\\''") : std::string(1, c);
+        command += "'";
     }
-    std::string command = quote(VELTRA_CLI);
-    for (const std::string &arg : args) command.append(" ").append(quote(arg));
-    command.append(" < ").append(quote(base + ".in"));
-    command.append(" > ").append(quote(base + ".out"));
-    command.append(" 2> ").append(quote(base + ".err"));
-    Result r;
+    command += " < '" + base + ".in' > '" + base + ".out' 2> '" + base + ".err'";
     const int raw = std::system(command.c_str());
-    r.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-    r.out = slurp(base + ".out");
-    r.err = slurp(base + ".err");
-    std::remove((base + ".in").c_str());
-    std::remove((base + ".out").c_str());
-    std::remove((base + ".err").c_str());
+    Result r{WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, slurp(base + ".out"), slurp(base + ".err")};
+    for (const char *suffix : {".in", ".out", ".err"}) std::remove((base + suffix).c_str());
     return r;
 }
 
-// The numbers at the start of an output line.
+// The numbers at the start of an output line ("nan" included).
 inline std::vector<double> numbers(const std::string &line) {
     std::vector<double> values;
     std::istringstream in(line);
     for (std::string field; in >> field;) {
-        if (field == "nan") {
-            values.push_back(NAN);
-            continue;
-        }
         char *end = nullptr;
-        double v = std::strtod(field.c_str(), &end);
+        const double value = std::strtod(field.c_str(), &end);
         if (end == field.c_str()) break;
-        values.push_back(v);
+        values.push_back(value);
     }
     return values;
 }
 
 inline std::string source_path(const std::string &relative) {
-    return std::string(VELTRA_SOURCE_DIR).append("/").append(relative);
+    return std::string(VELTRA_SOURCE_DIR) + "/" + relative;
 }
 
 }  // namespace cli
