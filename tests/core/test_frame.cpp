@@ -2,6 +2,7 @@
 // marker, byte order, allocation wrappers and version.
 #include "core/fixtures.h"
 #include "core/tokenizer.h"
+#include "core/vector.h"
 
 #include <bit>
 #include <cfloat>
@@ -111,6 +112,28 @@ TEST(Frame, MarkByteOrderMemoryAndVersion) {
     ka_mem_free(nullptr);
     ka_table_del(nullptr);
     EXPECT_STREQ(ka_version(), "Veltra Version 8.2 (Nov 19 2002)");
+}
+
+}  // namespace
+
+namespace {
+
+// The small vector refuses bad sizes and indexes and copies nothing then.
+TEST(Frame, VectorChecksBoundsAndArguments) {
+    using namespace veltra;
+    EXPECT_EQ(vector_new(0, 8), nullptr);
+    EXPECT_EQ(vector_new(3, 0), nullptr);
+    Vector *v = vector_new(3, sizeof(double));
+    ASSERT_NE(v, nullptr);
+    double in = 2.5, out = -1;
+    EXPECT_TRUE(vector_get(v, 2, &out) == 1 && out == 0.0);  // zero-filled
+    EXPECT_TRUE(vector_set(v, 1, &in) == 1 && vector_get(v, 1, &out) == 1 && out == 2.5);
+    out = 7;
+    EXPECT_FALSE(vector_set(v, 3, &in) || vector_set(v, -1, &in) || vector_get(v, 3, &out) ||
+                 vector_set(v, 0, nullptr) || vector_count(nullptr));
+    EXPECT_EQ(out, 7);
+    EXPECT_EQ(vector_count(v) * vector_size(v), 24);
+    vector_del(v);
 }
 
 }  // namespace
