@@ -139,11 +139,12 @@ TEST(CodeAndPredefinedLists, HoldTheCatalogue) {
 }
 
 // Override definitions are entries for the predefined lists and the search
-// (the unit's factor read from the file makes it equal).
+// (the unit's factor read from the file makes it equal; the first of two
+// equal entries is found).
 TEST(CodeAndPredefinedLists, IncludeOverrideDefinitions) {
     catalogue_test::OverrideHome home;
     home.use_environment();
-    home.write("unit", "UNIT,209001,Rod,5.0292\n");
+    home.write("unit", "UNIT,209001,Rod,5.0292\nUNIT,209002,Rod,5.0292\n");
     EXPECT_EQ(predefined_codes(ka_predefined_linear_unit).count(209001), 1u);
     ka_unit *rod = ka_unit_new("ROD", 5.0292);
     EXPECT_EQ(ka_factory_code(rod), 209001);
