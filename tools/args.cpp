@@ -25,8 +25,8 @@ bool read_stream(std::FILE *in, std::string &text) {
 
 }  // namespace
 
-Args::Args(int argc, char **argv, int first, std::vector<OptionSpec> specs)
-    : specs_(std::move(specs)) {
+Args::Args(int argc, char **argv, int first, std::vector<OptionRule> rules)
+    : rules_(std::move(rules)) {
     bool options_done = false;
     for (int i = first; i < argc; ++i) {
         std::string arg = argv[i];
@@ -45,14 +45,14 @@ Args::Args(int argc, char **argv, int first, std::vector<OptionSpec> specs)
             inline_value = arg.substr(eq + 1);
             has_inline = true;
         }
-        const OptionSpec *spec = nullptr;
-        for (const OptionSpec &s : specs_)
-            if (name == s.name) spec = &s;
-        if (spec == nullptr) {
+        const OptionRule *rule = nullptr;
+        for (const OptionRule &s : rules_)
+            if (name == s.name) rule = &s;
+        if (rule == nullptr) {
             error_ = "unknown option '" + name + "' (try --help)";
             return;
         }
-        if (!spec->takes_value) {
+        if (!rule->takes_value) {
             if (has_inline) {
                 error_ = "option " + name + " takes no value";
                 return;

@@ -15,7 +15,7 @@ constexpr int kExitOk = 0;
 constexpr int kExitDataErrors = 1;
 constexpr int kExitUsage = 2;
 
-struct OptionSpec {
+struct OptionRule {
     const char *name;  // "--pcs"
     bool takes_value;
 };
@@ -24,7 +24,7 @@ class Args {
 public:
     // Parses argv[first..argc) against the given options.  On failure
     // error() names the problem.
-    Args(int argc, char **argv, int first, std::vector<OptionSpec> specs);
+    Args(int argc, char **argv, int first, std::vector<OptionRule> rules);
 
     bool ok() const { return error_.empty(); }
     const std::string &error() const { return error_; }
@@ -35,7 +35,7 @@ public:
     const std::vector<std::string> &positional() const { return positional_; }
 
 private:
-    std::vector<OptionSpec> specs_;
+    std::vector<OptionRule> rules_;
     std::vector<std::pair<std::string, std::string>> given_;
     std::vector<std::string> positional_;
     std::string error_;
