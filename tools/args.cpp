@@ -78,6 +78,18 @@ const std::string *Args::value(const char *name) const {
     return found;
 }
 
+int options_exit(const Args &args, const char *help) {
+    if (!args.ok()) {
+        complain(args.error());
+        return kExitUsage;
+    }
+    if (args.flag("--help")) {
+        std::fputs(help, stdout);
+        return kExitOk;
+    }
+    return -1;
+}
+
 bool load_text(const std::string &argument, std::string &text,
                std::string &error) {
     text.clear();

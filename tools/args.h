@@ -41,6 +41,10 @@ private:
     std::string error_;
 };
 
+// Ends a subcommand early when its options are bad (complains, usage
+// status) or --help was asked (prints help, status 0); -1 otherwise.
+int options_exit(const Args &args, const char *help);
+
 // The text of a TEXT argument: the argument itself, the contents of a file
 // when it starts with '@', or standard input when it is "-".  False, with
 // error set, when the file cannot be read.

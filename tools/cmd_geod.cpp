@@ -48,14 +48,7 @@ constexpr double kDegree = 0.017453292519943295;  // pi / 180
 int run_geod(int argc, char **argv, int first) {
     Args args(argc, argv, first,
               {{"--spheroid", true}, {"--decimals", true}, {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(kHelp, stdout);
-        return kExitOk;
-    }
+    if (int status = options_exit(args, kHelp); status >= 0) return status;
     OutputFormat format;
     if (!read_format_options(args, format)) return kExitUsage;
     const auto &positional = args.positional();

@@ -52,14 +52,7 @@ const ListKind *find_kind(const std::string &name) {
 
 int run_list(int argc, char **argv, int first) {
     Args args(argc, argv, first, {{"--by-code", false}, {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(kHelp, stdout);
-        return kExitOk;
-    }
+    if (int status = options_exit(args, kHelp); status >= 0) return status;
     const auto &words = args.positional();
     if (words.empty() || words.size() > 2) {
         complain("list: KIND [PATTERN] expected (try veltra list --help)");

@@ -27,14 +27,7 @@ const char kHelp[] =
 
 int run_show(int argc, char **argv, int first) {
     Args args(argc, argv, first, {{"--kind", false}, {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(kHelp, stdout);
-        return kExitOk;
-    }
+    if (int status = options_exit(args, kHelp); status >= 0) return status;
     if (args.positional().size() > 1) {
         complain("show: one TEXT at most (quote the text)");
         return kExitUsage;

@@ -13,14 +13,7 @@ int run_convert(int argc, char **argv, int first,
     Args args(argc, argv, first,
               {{option, true}, {command.direction_flag, false},
                {"--decimals", true}, {"--help", false}});
-    if (!args.ok()) {
-        complain(args.error());
-        return kExitUsage;
-    }
-    if (args.flag("--help")) {
-        std::fputs(command.help, stdout);
-        return kExitOk;
-    }
+    if (int status = options_exit(args, command.help); status >= 0) return status;
     OutputFormat format;
     if (!read_format_options(args, format)) return kExitUsage;
     if (args.value(option) == nullptr) {
