@@ -42,10 +42,10 @@ Inverse inverse(const Ellipsoid &e, double lon1, double lat1, double lon2, doubl
 }
 
 // Uniform on [0, 1).
-double unit(std::mt19937_64 &rng) { return std::uniform_real_distribution<double>(0, 1)(rng); }
+[[maybe_unused]] double unit(std::mt19937_64 &rng) { return std::uniform_real_distribution<double>(0, 1)(rng); }
 
 // Difference of two angles in radians, modulo a full turn.
-double angle_diff(double x, double y) { return std::fabs(std::remainder(x - y, 2 * kPi)); }
+[[maybe_unused]] double angle_diff(double x, double y) { return std::fabs(std::remainder(x - y, 2 * kPi)); }
 
 // A start at a pole uses longitude 0: on a sphere half a great circle from
 // the north pole reaches the south one on meridian pi - az, from the south
