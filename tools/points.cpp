@@ -11,7 +11,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <sys/types.h>
 #include <vector>
 
 namespace veltra_cli {
@@ -25,6 +24,9 @@ constexpr std::size_t kBatchRecords = 4 * kBatchPoints;
 constexpr std::size_t kBatchText = 1 << 20;
 // The most numbers a job reads per line.
 constexpr int kMaxInputs = 8;
+// Longer input lines are skipped and reported, so a file without line
+// breaks never has to be held in memory.
+constexpr std::size_t kMaxLine = 1 << 16;
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
@@ -72,6 +74,51 @@ private:
     bool saw_comma_ = false;
 };
 
+// Reads lines in blocks, each line at most kMaxLine characters long (without
+// its line break; embedded NUL bytes are kept).
+class LineReader {
+public:
+    explicit LineReader(std::FILE *in) : in_(in), buffer_(2 * kMaxLine) {}
+
+    // The next line; false at the end of the input.  A longer line is
+    // skipped up to its line break and comes back empty with too_long set.
+    bool next(const char *&line, std::size_t &length, bool &too_long) {
+        too_long = false;
+        for (;;) {
+            char *begin = buffer_.data() + start_;
+            if (auto *nl = static_cast<char *>(std::memchr(begin, '\n', end_ - start_))) {
+                line = too_long ? nl : begin;
+                length = too_long ? 0 : static_cast<std::size_t>(nl - begin);
+                start_ = static_cast<std::size_t>(nl - buffer_.data()) + 1;
+                return true;
+            }
+            if (end_ - start_ >= kMaxLine) {  // too long: drop what is held
+                too_long = true;
+                start_ = end_ = 0;
+            } else {
+                std::memmove(buffer_.data(), begin, end_ - start_);
+                end_ -= start_;
+                start_ = 0;
+            }
+            const std::size_t got =
+                std::fread(buffer_.data() + end_, 1, buffer_.size() - end_, in_);
+            if (got == 0) {  // the end: a last line without a line break
+                if (end_ == 0 && !too_long) return false;
+                line = buffer_.data();
+                length = too_long ? 0 : end_;
+                start_ = end_ = 0;
+                return true;
+            }
+            end_ += got;
+        }
+    }
+
+private:
+    std::FILE *in_;
+    std::vector<char> buffer_;
+    std::size_t start_ = 0, end_ = 0;
+};
+
 class Batch {
 public:
     Batch(const PointJob &job, const OutputFormat &format, std::FILE *out,
@@ -81,7 +128,13 @@ public:
         extra_.reserve(kBatchPoints);
     }
 
-    void add_line(const char *line, std::size_t length, long number) {
+    void add_line(const char *line, std::size_t length, bool too_long,
+                  long number) {
+        if (too_long) {
+            reject(number, "longer than " + std::to_string(kMaxLine) +
+                               " characters");
+            return;
+        }
         while (length > 0 && (line[length - 1] == '\n' || line[length - 1] == '\r'))
             --length;
         const char *end = line + length;
@@ -90,11 +143,22 @@ public:
         if (first == end || *first == '#') {
             add_text_record(Record::kCopy, line, end);
         } else if (!add_point(first, end)) {
-            complain("line " + std::to_string(number) + ": expected " +
-                     job_.expected);
-            ++result_.bad_lines;
-            add_text_record(Record::kBad, end, end);
+            reject(number, std::string("expected ") + job_.expected);
+            return;
         }
+        flush_when_full();
+    }
+
+    // Reports a line that cannot be read and answers it with nan.
+    void reject(long number, const std::string &why) {
+        complain("line " + std::to_string(number) + ": " + why);
+        ++result_.bad_lines;
+        static const char kNothing[] = "";
+        add_text_record(Record::kBad, kNothing, kNothing);
+        flush_when_full();
+    }
+
+    void flush_when_full() {
         if (points_ == kBatchPoints || records_.size() >= kBatchRecords ||
             text_.size() >= kBatchText)
             flush();
@@ -236,12 +300,12 @@ StreamResult stream_points(std::FILE *in, std::FILE *out, const PointJob &job,
                            const OutputFormat &format) {
     StreamResult result;
     Batch batch(job, format, out, result);
-    char *line = nullptr;
-    std::size_t capacity = 0;
-    ssize_t length;
-    while ((length = getline(&line, &capacity, in)) >= 0)
-        batch.add_line(line, static_cast<std::size_t>(length), ++result.lines);
-    std::free(line);
+    LineReader reader(in);
+    const char *line;
+    std::size_t length;
+    bool too_long;
+    while (reader.next(line, length, too_long))
+        batch.add_line(line, length, too_long, ++result.lines);
     batch.flush();
     std::fflush(out);
     return result;

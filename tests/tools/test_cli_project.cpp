@@ -96,6 +96,12 @@ TEST(CliProject, BadLinesAreReportedWithTheirNumbersAndTheOthersConverted) {
     EXPECT_TRUE(errors[1].starts_with("veltra: line 5: expected two numbers")) << r.err;
     EXPECT_EQ(r.err.find("line 7"), std::string::npos);
 
+    // A line too long to hold is skipped, not buffered, and its neighbours
+    // still converted, the last one without a line break.
+    r = cli::run({"project", "--pcs", kUtmFile}, "15 0\n" + std::string(70000, '7') + "\n15 0");
+    EXPECT_EQ(r.out, "500000 0\nnan nan\n500000 0\n");
+    EXPECT_TRUE(r.err.starts_with("veltra: line 2: longer than 65536 characters")) << r.err;
+
     // A cylindrical equal-area system on a polar standard parallel has no
     // cylinder: every point fails and is marked.
     std::string polar = fixtures::kUtm33nText;
