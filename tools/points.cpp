@@ -87,6 +87,7 @@ public:
         for (;;) {
             char *begin = buffer_.data() + start_;
             if (auto *nl = static_cast<char *>(std::memchr(begin, '\n', end_ - start_))) {
+                too_long = too_long || static_cast<std::size_t>(nl - begin) > kMaxLine;
                 line = too_long ? nl : begin;
                 length = too_long ? 0 : static_cast<std::size_t>(nl - begin);
                 start_ = static_cast<std::size_t>(nl - buffer_.data()) + 1;
