@@ -2,20 +2,17 @@
 // metres less the false origin, the projection's inverse routine once for
 // the whole array, then the geographic system's angular unit.
 #include "core/projcs.h"
-#include "projections/pcsconstants.h"
 
 using namespace veltra;
 
 extern "C" KA_API int ka_proj_to_geog(const ka_projcs *projcs, int n,
                                       double *coords) {
     if (coords == nullptr) return 0;
-    ProjcsInputs inputs;
-    projcs_inputs(projcs, SlotUse::kConversion, inputs);
-    const PcsConstants *record =
-        ka_projcs_p(projcs) ? projcs->constants : nullptr;
-    const double angular = inputs.system[2], linear = inputs.system[3];
-    const double false_easting = inputs.values[0];
-    const double false_northing = inputs.values[1];
+    Conversion c;
+    conversion_inputs(projcs, c);
+    const double angular = c.angular(), linear = c.linear();
+    const double false_easting = c.false_easting();
+    const double false_northing = c.false_northing();
 
     // Passes that would change nothing (metres in, radians out, no false
     // origin) are skipped.
@@ -25,8 +22,7 @@ extern "C" KA_API int ka_proj_to_geog(const ka_projcs *projcs, int n,
             coords[2 * i + 1] = coords[2 * i + 1] * linear - false_northing;
         }
     const int count = ka_projection_inverse(ka_projcs_projection(projcs))(
-        inputs.system, inputs.values, n, coords, pcsconstants_header(record),
-        pcsconstants_values(record));
+        c.inputs.system, c.inputs.values, n, coords, c.header, c.constants);
     if (angular != 1.0)
         for (int i = 0; i < 2 * n; ++i) coords[i] /= angular;
     return count;

@@ -72,6 +72,13 @@ void projcs_inputs(const ka_projcs *projcs, SlotUse use, ProjcsInputs &out) {
     }
 }
 
+void conversion_inputs(const ka_projcs *projcs, Conversion &out) {
+    projcs_inputs(projcs, SlotUse::kConversion, out.inputs);
+    const PcsConstants *record = valid(projcs) ? projcs->constants : nullptr;
+    out.header = pcsconstants_header(record);
+    out.constants = pcsconstants_values(record);
+}
+
 }  // namespace veltra
 
 extern "C" {

@@ -23,4 +23,20 @@ enum class SlotUse { kConstants, kConversion, kHorizon };
 // first) and axis scales (1.0) filled in.
 void projcs_inputs(const ka_projcs *projcs, SlotUse use, ProjcsInputs &out);
 
+// What both conversion drivers hand the projection's routine: the inputs
+// for conversion and the arrays of the loaded constants record (null when
+// the system is unloaded).
+struct Conversion {
+    ProjcsInputs inputs;
+    const int *header;
+    const double *constants;
+
+    double angular() const { return inputs.system[2]; }
+    double linear() const { return inputs.system[3]; }
+    double false_easting() const { return inputs.values[0]; }
+    double false_northing() const { return inputs.values[1]; }
+};
+
+void conversion_inputs(const ka_projcs *projcs, Conversion &out);
+
 }  // namespace veltra
