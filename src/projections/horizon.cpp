@@ -1,13 +1,12 @@
 #include "projections/horizon.h"
+#include "core/angles.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace veltra {
 
 namespace {
 
-constexpr double kPi = std::numbers::pi;
 constexpr double kSeamGap = 2e-7;  // radians left out on each side of the seam
 constexpr int kCentralMeridian = 2;
 constexpr int kRectangle = 1;

@@ -3,17 +3,17 @@
 // are truncated where the projection results are defined against them; no
 // iteration refines them.
 #include "projections/math.h"
+#include "core/angles.h"
 
 #include "core/tolerance.h"
 #include "veltra.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace {
 
-constexpr double kPi = std::numbers::pi;
-constexpr double kHalfPi = kPi / 2;
+using veltra::kHalfPi;
+using veltra::kPi;
 
 // Third flattening n from e2.
 double third_flattening(double e2) {

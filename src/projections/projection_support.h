@@ -3,17 +3,14 @@
 // constants record.
 #pragma once
 
+#include "core/angles.h"
 #include "core/tolerance.h"
 #include "veltra.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace veltra {
 
-inline constexpr double kPi = std::numbers::pi;
-inline constexpr double kHalfPi = kPi / 2;
-inline constexpr double kQuarterPi = kPi / 4;
 
 // Slots of the 16 parameter values a routine receives.
 enum ParameterSlot : int {

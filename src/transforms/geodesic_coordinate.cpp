@@ -3,13 +3,13 @@
 // auxiliary sphere with his A and B series; on a sphere, the closed
 // great-circle formulas.
 #include "core/tolerance.h"
+#include "core/angles.h"
 #include "transforms/geodesic_trig.h"
 #include "veltra.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 namespace {
 
@@ -17,8 +17,8 @@ using veltra::exact_cos;
 using veltra::exact_sin;
 using veltra::tol_eq;
 
-constexpr double kPi = std::numbers::pi;
-constexpr double kHalfPi = kPi / 2;
+using veltra::kHalfPi;
+using veltra::kPi;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 // Below this eccentricity squared the spheroid is treated as a sphere.

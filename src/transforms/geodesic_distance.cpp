@@ -7,19 +7,20 @@
 // a spherical estimate, or from the astroid for nearly antipodal points, and
 // kept inside a bracket.  On a sphere, closed great-circle formulas.
 #include "transforms/geodesic_trig.h"
+#include "core/angles.h"
 #include "veltra.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 namespace {
 
 using veltra::exact_cos;
 using veltra::exact_sin;
 
-constexpr double kPi = std::numbers::pi;
+using veltra::kHalfPi;
+using veltra::kPi;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 // Below this eccentricity squared the spheroid is treated as a sphere.
@@ -451,7 +452,6 @@ KA_API void ka_geodesic_distance(double a, double e2, double lon1,
                                  double lat1, double lon2, double lat2,
                                  double *distance, double *az12,
                                  double *az21) {
-    constexpr double kHalfPi = kPi / 2;
     if (!(std::fabs(lat1) <= kHalfPi && std::fabs(lat2) <= kHalfPi) ||
         !std::isfinite(lon1) || !std::isfinite(lon2) || !std::isfinite(a) ||
         !(e2 < 1)) {

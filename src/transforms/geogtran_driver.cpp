@@ -1,4 +1,5 @@
 #include "transforms/geogtran_driver.h"
+#include "core/angles.h"
 
 #include "transforms/gtconstants.h"
 
@@ -6,8 +7,6 @@ namespace veltra {
 
 namespace {
 
-// Prime meridians are held in degrees.
-constexpr double kRadiansPerDegree = 0.017453292519943295;
 // Rotations are held in arc-seconds, the scale difference in parts per
 // million.
 constexpr double kRadiansPerArcSecond = 4.84813681109536e-06;

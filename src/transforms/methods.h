@@ -7,9 +7,9 @@
 // blocks are ignored.  Each returns n.
 #pragma once
 
+#include "core/angles.h"
 #include "veltra.h"
 
-#include <numbers>
 
 namespace veltra {
 
@@ -102,7 +102,6 @@ inline double input_height(const double *heights, int i) {
 // ka_delta(longitude), which leaves a longitude within [-pi, pi] as it is:
 // only one outside is handed to it.
 inline double fold_longitude(double longitude) {
-    constexpr double kPi = std::numbers::pi;
     return longitude >= -kPi && longitude <= kPi ? longitude
                                                  : ka_delta(longitude);
 }
@@ -111,7 +110,6 @@ inline double fold_longitude(double longitude) {
 // longitude folded into [-pi, pi], the height written when heights are kept.
 inline void store_point(double *coords, double *heights, int i,
                         double latitude, double longitude, double height) {
-    constexpr double kHalfPi = std::numbers::pi / 2;
     if (latitude > kHalfPi) latitude = kHalfPi;
     if (latitude < -kHalfPi) latitude = -kHalfPi;
     coords[2 * i] = fold_longitude(longitude);
