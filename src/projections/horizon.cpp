@@ -1,4 +1,5 @@
 #include "projections/horizon.h"
+
 #include "core/angles.h"
 
 #include <cmath>

@@ -3,8 +3,8 @@
 // are truncated where the projection results are defined against them; no
 // iteration refines them.
 #include "projections/math.h"
-#include "core/angles.h"
 
+#include "core/angles.h"
 #include "core/tolerance.h"
 #include "veltra.h"
 

@@ -2,8 +2,8 @@
 // distance along an azimuth.  On a spheroid, Vincenty's iteration on the
 // auxiliary sphere with his A and B series; on a sphere, the closed
 // great-circle formulas.
-#include "core/tolerance.h"
 #include "core/angles.h"
+#include "core/tolerance.h"
 #include "transforms/geodesic_trig.h"
 #include "veltra.h"
 

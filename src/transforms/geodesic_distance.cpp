@@ -6,8 +6,8 @@
 // point is found by Newton's method on the longitude reached, started from
 // a spherical estimate, or from the astroid for nearly antipodal points, and
 // kept inside a bracket.  On a sphere, closed great-circle formulas.
-#include "transforms/geodesic_trig.h"
 #include "core/angles.h"
+#include "transforms/geodesic_trig.h"
 #include "veltra.h"
 
 #include <algorithm>

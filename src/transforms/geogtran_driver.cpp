@@ -1,6 +1,6 @@
 #include "transforms/geogtran_driver.h"
-#include "core/angles.h"
 
+#include "core/angles.h"
 #include "transforms/gtconstants.h"
 
 namespace veltra {
