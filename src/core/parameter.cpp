@@ -51,8 +51,6 @@ constexpr ParameterName kNames[] = {
 
 }  // namespace
 
-std::span<const ParameterName> parameter_names() { return kNames; }
-
 const ParameterName *find_parameter_name(const char *name) {
     if (name == nullptr) return nullptr;
     for (const ParameterName &row : kNames)

@@ -12,9 +12,6 @@ struct ParameterName {
     double default_value;
 };
 
-// The 29 known names, in search order.
-std::span<const ParameterName> parameter_names();
-
 // Row of a name (ignoring case), or nullptr.
 const ParameterName *find_parameter_name(const char *name);
 

@@ -104,11 +104,6 @@ const char *method_code_name(int code) {
     return row != nullptr ? row->name : "";
 }
 
-int method_code(const ka_method *method) {
-    const MethodRow *row = row_of(method);
-    return row != nullptr ? row->code : 0;
-}
-
 }  // namespace veltra
 
 using namespace veltra;

@@ -28,8 +28,4 @@ ka_method *table_method(const char *name);
 // Name of the method with catalogue code `code`; "" for an unknown code.
 const char *method_code_name(int code);
 
-// Catalogue code of the table row a method equals (name ignoring case, the
-// same two routines); 0 when none does.
-int method_code(const ka_method *method);
-
 }  // namespace veltra
