@@ -2,8 +2,6 @@
 // value a parameter of that name is created with.
 #pragma once
 
-#include <span>
-
 namespace veltra {
 
 struct ParameterName {
